@@ -1,0 +1,28 @@
+# One set of compiler rules for every target of the tree.
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_INCLUDE_CURRENT_DIR ON)
+
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "Kind of build" FORCE)
+endif()
+
+add_library(korvex_settings INTERFACE)
+target_compile_options(korvex_settings INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor
+  $<$<BOOL:${KORVEX_WERROR}>:-Werror>)
+target_compile_definitions(korvex_settings INTERFACE QT_NO_FOREACH QT_DEPRECATED_WARNINGS)
+
+# korvex_library(<name> SOURCES <files> [LINKS <libraries>])
+# One static library per source folder. Only what is named under LINKS can be included and linked,
+# which keeps the layers pointing one way.
+function(korvex_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(${name} STATIC ${ARG_SOURCES})
+  target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+  target_link_libraries(${name} PUBLIC ${ARG_LINKS} PRIVATE korvex_settings)
+endfunction()
