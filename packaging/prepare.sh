@@ -68,7 +68,7 @@ install_debian()
     if [ -z "$missing" ]; then
         return 0
     fi
-    command="apt-get install --no-install-recommends $missing"
+    command="apt-get update && apt-get install --no-install-recommends $missing"
     if [ "$EUID" -ne 0 ] && ! command -v sudo >/dev/null; then
         fail "Only root can install what is missing, and there is no sudo. As root: $command"
     fi
