@@ -7,10 +7,11 @@
 
 set(home lib/korvex-iso-editor)
 
+# The password prompts among the translations are programs and have to stay executable.
 install(DIRECTORY
   ${KORVEX_BIN_DIR}/7z ${KORVEX_BIN_DIR}/cdrtools ${KORVEX_BIN_DIR}/wimlib-imagex
   ${KORVEX_BIN_DIR}/translations
-  DESTINATION ${home})
+  DESTINATION ${home} USE_SOURCE_PERMISSIONS)
 
 if(TARGET mkbootable)
   install(TARGETS mkbootable RUNTIME DESTINATION ${home})
