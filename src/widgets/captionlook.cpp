@@ -22,6 +22,8 @@ const QColor white(Qt::white);
 const QColor lightBlue(0, 164, 242);
 // Readable on white and on the light blue of the hover pictures.
 const QColor deepBlue(0, 98, 143);
+// The one colour of style 4 under the mouse, so it has to do on the pressed picture's blue, too.
+const QColor nightBlue(0, 38, 56);
 const QColor text(0x33, 0x33, 0x33);
 const QColor faded(0x8C, 0x98, 0xA0);
 
@@ -39,10 +41,11 @@ CaptionLook CaptionLook::caption(int style)
     case OkStyle:
         return {14, -1, 0, {white, white, white, white}};
     case CancelStyle:
-        return {12, -1, 0, {lightBlue, deepBlue, deepBlue, lightBlue}};
+        return {12, -1, 0, {lightBlue, nightBlue, nightBlue, white}};
     case StopStyle:
-    case OpenFolderStyle:
         return {12, -1, 0, {deepBlue, deepBlue, white, faded}};
+    case OpenFolderStyle:
+        return {12, -1, 0, {deepBlue, deepBlue, deepBlue, faded}};
     default:
         return {14, -1, 0, {text, text, text, faded}};
     }

@@ -109,6 +109,9 @@ protected:
     {
         Base::showEvent(event);
         this->update();
+        // Else the first button would get the focus, unseen, and a stray Space would press it.
+        if (this->isWindow() && !this->focusWidget())
+            this->setFocus();
         announceVisible(true);
     }
 

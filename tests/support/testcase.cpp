@@ -6,8 +6,7 @@
 #include <QMutex>
 #include <QtTest>
 
-namespace
-{
+namespace {
 
 QMutex mutex;
 QStringList warnings;
