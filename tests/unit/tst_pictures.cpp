@@ -1,0 +1,276 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "testcase.h"
+#include "testmain.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFile>
+#include <QImage>
+#include <QLineEdit>
+#include <QRegularExpression>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+namespace {
+
+// One line of the list of pictures.
+struct Entry
+{
+    QString name;
+    QString kind;
+    QSize size;
+    QString states;
+
+    // Resource paths in the order of the states.
+    QStringList paths() const
+    {
+        if (states == "-")
+            return {":/nwu/" + name};
+        QStringList all;
+        for (int i = 1; i <= states.size(); ++i)
+            all.append(QString(":/nwu/%1%2").arg(name).arg(i));
+        return all;
+    }
+};
+
+QString contents(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QVector<Entry> readList()
+{
+    static const QRegularExpression form(R"(^([^# ]\S*) +(\S+) +\S+ +(\d+)x(\d+) +(\S+)$)",
+                                         QRegularExpression::MultilineOption);
+    QVector<Entry> entries;
+    QRegularExpressionMatchIterator matches = form.globalMatch(contents(KORVEX_PICTURE_LIST));
+    while (matches.hasNext()) {
+        const QRegularExpressionMatch match = matches.next();
+        entries.append({match.captured(1),
+                        match.captured(2),
+                        {match.captured(3).toInt(), match.captured(4).toInt()},
+                        match.captured(5)});
+    }
+    return entries;
+}
+
+QImage load(const QString& path)
+{
+    return QImage(path).convertToFormat(QImage::Format_ARGB32);
+}
+
+// Share of the pixels, in percent, that an eye would see change between two pictures of one size.
+double changedPercent(const QImage& a, const QImage& b)
+{
+    const auto differs = [](int x, int y) { return std::abs(x - y) > 8; };
+    int changed = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb p = a.pixel(x, y);
+            const QRgb q = b.pixel(x, y);
+            if (differs(qAlpha(p), qAlpha(q)) || differs(qRed(p), qRed(q)) ||
+                differs(qGreen(p), qGreen(q)) || differs(qBlue(p), qBlue(q)))
+                ++changed;
+        }
+    }
+    return 100.0 * changed / (a.width() * a.height());
+}
+
+double luminance(const QColor& color)
+{
+    const auto linear = [](double part) {
+        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
+}
+
+// Contrast of white on an opaque colour, from 1 (none) to 21.
+double contrastOfWhite(const QColor& ground)
+{
+    return 1.05 / (luminance(ground) + 0.05);
+}
+
+} // namespace
+
+class TstPictures : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void everyPictureIsThereAtBothResolutions_data();
+    void everyPictureIsThereAtBothResolutions();
+    void statesAreToldApart_data();
+    void statesAreToldApart();
+    void windowsHaveTransparentCornersAndAnOpaqueMiddle_data();
+    void windowsHaveTransparentCornersAndAnOpaqueMiddle();
+    void pagesHideWhatLiesUnderThem_data();
+    void pagesHideWhatLiesUnderThem();
+    void whiteCaptionsCanBeRead_data();
+    void whiteCaptionsCanBeRead();
+    void styleSheetNamesOnlyPicturesThatExist();
+    void styleSheetIsAccepted();
+};
+
+void TstPictures::initTestCase()
+{
+    Q_INIT_RESOURCE(pictures);
+    QVERIFY(!readList().isEmpty());
+}
+
+void TstPictures::everyPictureIsThereAtBothResolutions_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QSize>("size");
+    for (const Entry& entry : readList()) {
+        for (const QString& path : entry.paths())
+            QTest::newRow(qPrintable(path)) << path << entry.size;
+    }
+}
+
+void TstPictures::everyPictureIsThereAtBothResolutions()
+{
+    QFETCH(QString, path);
+    QFETCH(QSize, size);
+    QCOMPARE(QImage(path).size(), size);
+    const QImage fine(path + "@2x");
+    QCOMPARE(fine.size(), 2 * size);
+    // The mark in the name tells Qt how dense the picture is.
+    QCOMPARE(fine.devicePixelRatio(), 2.0);
+}
+
+void TstPictures::statesAreToldApart_data()
+{
+    QTest::addColumn<QStringList>("paths");
+    for (const Entry& entry : readList()) {
+        if (entry.states != "-")
+            QTest::newRow(qPrintable(entry.name)) << entry.paths();
+    }
+}
+
+void TstPictures::statesAreToldApart()
+{
+    QFETCH(QStringList, paths);
+    for (int i = 0; i < paths.size(); ++i) {
+        for (int j = i + 1; j < paths.size(); ++j) {
+            const double changed = changedPercent(load(paths.at(i)), load(paths.at(j)));
+            QVERIFY2(changed > 2, qPrintable(QString("%1 and %2 differ in %3 % of their pixels")
+                                                 .arg(paths.at(i), paths.at(j))
+                                                 .arg(changed)));
+        }
+    }
+}
+
+void TstPictures::windowsHaveTransparentCornersAndAnOpaqueMiddle_data()
+{
+    QTest::addColumn<QString>("path");
+    for (const Entry& entry : readList()) {
+        if (QStringList({"main", "dialog", "notice", "about"}).contains(entry.kind))
+            QTest::newRow(qPrintable(entry.name)) << ":/nwu/" + entry.name;
+    }
+}
+
+void TstPictures::windowsHaveTransparentCornersAndAnOpaqueMiddle()
+{
+    QFETCH(QString, path);
+    for (const QString& suffix : QStringList({"", "@2x"})) {
+        const QImage image = load(path + suffix);
+        const QRect area = image.rect();
+        for (const QPoint& corner :
+             {area.topLeft(), area.topRight(), area.bottomLeft(), area.bottomRight()})
+            QCOMPARE(qAlpha(image.pixel(corner)), 0);
+        QCOMPARE(qAlpha(image.pixel(area.center())), 255);
+        // The outline reaches the edge between the corners.
+        QCOMPARE(qAlpha(image.pixel(area.center().x(), 0)), 255);
+        QCOMPARE(qAlpha(image.pixel(0, area.center().y())), 255);
+    }
+}
+
+void TstPictures::pagesHideWhatLiesUnderThem_data()
+{
+    QTest::addColumn<QString>("path");
+    for (const Entry& entry : readList()) {
+        if (entry.kind == "page")
+            QTest::newRow(qPrintable(entry.name)) << ":/nwu/" + entry.name;
+    }
+}
+
+void TstPictures::pagesHideWhatLiesUnderThem()
+{
+    QFETCH(QString, path);
+    const QImage image = load(path);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            QCOMPARE(qAlpha(image.pixel(x, y)), 255);
+    }
+}
+
+void TstPictures::whiteCaptionsCanBeRead_data()
+{
+    QTest::addColumn<QString>("path");
+    for (const Entry& entry : readList()) {
+        const QStringList paths = entry.paths();
+        if (entry.kind == "primary" || entry.kind == "slate") {
+            for (const QString& path : paths)
+                QTest::newRow(qPrintable(path)) << path;
+        } else if (entry.kind == "tile") {
+            const QString pressed = paths.at(entry.states.indexOf('p'));
+            QTest::newRow(qPrintable(pressed)) << pressed;
+        }
+    }
+}
+
+void TstPictures::whiteCaptionsCanBeRead()
+{
+    QFETCH(QString, path);
+    const QImage image = load(path);
+    // Where the caption is painted: in the middle, on a tile below it, clear of the symbol.
+    const int y = image.height() > 100 ? 127 : image.height() / 2;
+    for (int x = image.width() / 4; x < image.width() * 3 / 4; ++x) {
+        QCOMPARE(qAlpha(image.pixel(x, y)), 255);
+        QVERIFY(contrastOfWhite(image.pixelColor(x, y)) >= 3);
+    }
+}
+
+void TstPictures::styleSheetNamesOnlyPicturesThatExist()
+{
+    static const QRegularExpression url(R"(url\(([^)]*)\))");
+    QRegularExpressionMatchIterator matches = url.globalMatch(contents(":/qss.qss"));
+    QVERIFY(matches.hasNext());
+    while (matches.hasNext()) {
+        const QString path = matches.next().captured(1);
+        QVERIFY2(QFile::exists(path), qPrintable(path));
+        QVERIFY2(QFile::exists(path + "@2x"), qPrintable(path));
+    }
+}
+
+void TstPictures::styleSheetIsAccepted()
+{
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    auto* edit = new QLineEdit;
+    auto* check = new QCheckBox;
+    auto* table = new QTableWidget(50, 3);
+    for (QWidget* widget : QList<QWidget*>({edit, check, new QComboBox, table}))
+        layout->addWidget(widget);
+    // A sheet that cannot be parsed ends in a Qt warning, which fails the function.
+    qApp->setStyleSheet(contents(":/qss.qss"));
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const QImage shown = window.grab().toImage();
+    qApp->setStyleSheet(QString());
+    // A valid sheet that rules nothing would leave the box as the platform draws it.
+    const QPoint middle = check->mapTo(&window, QPoint(8, check->height() / 2));
+    QCOMPARE(shown.pixelColor(middle), QColor(Qt::white));
+    QCOMPARE(shown.pixelColor(edit->mapTo(&window, QPoint(edit->width() / 2, 0))),
+             QColor("#00A0E6"));
+}
+
+KORVEX_TEST_MAIN(TstPictures)
+#include "tst_pictures.moc"
