@@ -3,8 +3,17 @@
 
 #include "picture.h"
 
+// The pictures lie in a static library, whose own registration the linker leaves out. Qt's macro
+// has to stand outside every namespace.
+static bool registerPictures()
+{
+    Q_INIT_RESOURCE(pictures);
+    return true;
+}
+
 namespace {
 
+const bool picturesRegistered = registerPictures();
 constexpr qreal doubledRatio = 2.0;
 
 QPixmap loadAs(const QString& path, qreal ratio)
