@@ -1,0 +1,68 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "cfiledialog.h"
+
+#include <QDialogButtonBox>
+#include <QFileSystemModel>
+#include <QListView>
+#include <QPushButton>
+#include <QTreeView>
+
+CFileDialog::CFileDialog(QWidget* parent, bool files)
+    : QFileDialog(parent, QString(), QString(), QString())
+    , withFiles(files)
+{
+    // The platform's own dialog has no views to reach.
+    setOption(QFileDialog::DontUseNativeDialog);
+    QDir::Filters filter = QDir::Dirs | QDir::NoDotAndDotDot;
+    if (withFiles)
+        filter |= QDir::Files;
+    setFilter(filter);
+
+    // The list and the details view share one selection.
+    auto* list = findChild<QListView*>("listView");
+    list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    auto* details = findChild<QTreeView*>("treeView");
+    details->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    connect(list->selectionModel(), SIGNAL(selectionChanged(QItemSelection, QItemSelection)), this,
+            SLOT(onSelectionChanged()));
+
+    buttonBox = findChild<QDialogButtonBox*>("buttonBox");
+    disconnect(buttonBox, SIGNAL(accepted()), this, SLOT(accept()));
+    connect(buttonBox, SIGNAL(accepted()), this, SLOT(onChiose()));
+}
+
+void CFileDialog::onChiose()
+{
+    QDialog::accept();
+}
+
+void CFileDialog::onSelectionChanged()
+{
+    // The base goes by the typed line, into which it writes no folders.
+    if (!selectedInView().isEmpty())
+        buttonBox->button(QDialogButtonBox::Open)->setEnabled(true);
+}
+
+QStringList CFileDialog::selectedInView() const
+{
+    QStringList paths;
+    const auto* list = findChild<QListView*>("listView");
+    for (const QModelIndex& index : list->selectionModel()->selectedRows())
+        paths.append(index.data(QFileSystemModel::FilePathRole).toString());
+    return paths;
+}
+
+QStringList CFileDialog::selectedFiles() const
+{
+    QStringList paths = selectedInView();
+    if (!paths.isEmpty())
+        return paths;
+    for (const QString& path : QFileDialog::selectedFiles()) {
+        const QFileInfo info(path);
+        if (info.isDir() || (withFiles && info.exists()))
+            paths.append(path);
+    }
+    return paths;
+}

@@ -1,0 +1,36 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QFileDialog>
+
+class QDialogButtonBox;
+
+// Chooses several folders, or files and folders together, which the toolkit's own dialog does not
+// offer. Util's GetDirsDialog() and GetDirsAndFilesDialog() run it.
+class CFileDialog : public QFileDialog
+{
+    Q_OBJECT
+
+public:
+    // withFiles shows files beside the folders.
+    CFileDialog(QWidget* parent, bool withFiles);
+
+    // Absolute paths of what is selected in the list; without a selection, of what is typed, as far
+    // as it exists and may be chosen. Hides the base's function, which drops folders.
+    QStringList selectedFiles() const;
+
+public slots:
+    // Accepts the choice without the base's check for one existing file. Spelled so.
+    void onChiose();
+
+private slots:
+    void onSelectionChanged();
+
+private:
+    QStringList selectedInView() const;
+
+    bool withFiles;
+    QDialogButtonBox* buttonBox;
+};

@@ -1,0 +1,37 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "cinputdialog.h"
+
+#include <QLabel>
+#include <QLineEdit>
+
+CInputDialog::CInputDialog(QWidget* parent)
+    : CommDialog(parent)
+    , lineEdit(new QLineEdit(this))
+{
+    lineEdit->setObjectName("lineEdit");
+    lineEdit->setGeometry(40, 100, 360, 20);
+    textLabel()->setGeometry(40, 60, 340, 25);
+    textLabel()->setBuddy(lineEdit);
+    CInputDialog::retranslate();
+    lineEdit->setFocus();
+}
+
+void CInputDialog::retranslate()
+{
+    CommDialog::retranslate();
+    SetText(tr("Please input the name:"));
+    lineEdit->setAccessibleName(tr("Please input the name:"));
+}
+
+void CInputDialog::SetInput(QString text)
+{
+    lineEdit->setText(text.trimmed());
+    lineEdit->selectAll();
+}
+
+QString CInputDialog::GetInput() const
+{
+    return lineEdit->text().trimmed();
+}

@@ -1,0 +1,47 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "usermouse.h"
+
+#include <QCursor>
+#include <QtTest>
+#include <QWidget>
+#include <QWindow>
+
+void UserMouse::move(QWidget* widget, QPoint position)
+{
+    QWidget* top = widget->window();
+    const QPoint inWindow = widget->mapTo(top, position);
+    QCursor::setPos(top->mapToGlobal(inWindow));
+    QTest::mouseMove(top->windowHandle(), inWindow);
+    QCoreApplication::processEvents();
+}
+
+void UserMouse::press(QWidget* widget, QPoint position)
+{
+    move(widget, position);
+    QWidget* top = widget->window();
+    QTest::mousePress(top->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      widget->mapTo(top, position));
+}
+
+void UserMouse::release(QWidget* widget, QPoint position)
+{
+    move(widget, position);
+    QWidget* top = widget->window();
+    QTest::mouseRelease(top->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                        widget->mapTo(top, position));
+}
+
+void UserMouse::click(QWidget* widget)
+{
+    const QPoint centre = widget->rect().center();
+    press(widget, centre);
+    release(widget, centre);
+}
+
+void UserMouse::moveAway(QWidget* widget)
+{
+    QWidget* top = widget->window();
+    move(top, top->rect().bottomRight());
+}
