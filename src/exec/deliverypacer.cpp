@@ -1,0 +1,49 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "deliverypacer.h"
+
+#include <QMetaObject>
+
+namespace {
+
+constexpr int piecesPerReceipt = 256;
+constexpr int receiptsInFlight = 8;
+constexpr int waitStepMs = 50;
+constexpr int patienceSteps = 20;
+
+} // namespace
+
+void DeliveryPacer::reset()
+{
+    unreceipted = 0;
+    receiptsOutstanding = 0;
+    receipts = std::make_shared<QSemaphore>();
+}
+
+void DeliveryPacer::afterEmitting(int pieces, const std::function<bool()>& isStopped)
+{
+    unreceipted += pieces;
+    if (unreceipted < piecesPerReceipt)
+        return;
+    unreceipted = 0;
+    requestReceipt();
+    for (int step = 0; receiptsOutstanding > receiptsInFlight && step < patienceSteps; ++step) {
+        if (isStopped())
+            return;
+        if (receipts->tryAcquire(1, waitStepMs)) {
+            --receiptsOutstanding;
+            step = 0;
+        }
+    }
+}
+
+// Events of one thread to another arrive in order: when this one is handled, the pieces before it
+// have been.
+void DeliveryPacer::requestReceipt()
+{
+    ++receiptsOutstanding;
+    const auto counter = receipts;
+    QMetaObject::invokeMethod(
+        this, [counter] { counter->release(); }, Qt::QueuedConnection);
+}

@@ -1,0 +1,34 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "sevenzipprogress.h"
+
+#include "terminaltext.h"
+
+namespace {
+
+const QLatin1String percentMark("% ");
+const QLatin1String entryMark(" - ");
+
+// A piece may begin with the rest of another line: the number is what stands last before its mark.
+QString lastWord(const QString& text)
+{
+    const QString words = text.trimmed();
+    return words.mid(words.lastIndexOf(' ') + 1);
+}
+
+} // namespace
+
+std::optional<SevenZipProgress> readSevenZipProgress(const QString& piece)
+{
+    const QString text = eraseBackspaces(piece);
+    const int percentEnd = text.indexOf(percentMark);
+    const int entryMarkAt = text.indexOf(entryMark);
+    if (percentEnd <= 0 || entryMarkAt <= 0)
+        return std::nullopt;
+    const QString number = lastWord(text.left(percentEnd));
+    if (number.isEmpty())
+        return std::nullopt;
+    return SevenZipProgress{number.toInt(),
+                            withoutControlCharacters(text.mid(entryMarkAt + entryMark.size()))};
+}

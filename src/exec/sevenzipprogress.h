@@ -1,0 +1,21 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+// How far the archiver is with an extraction.
+struct SevenZipProgress
+{
+    // Percent, as the archiver wrote it.
+    int percent = 0;
+    // The entry being extracted, without control characters.
+    QString entry;
+};
+
+// Reads one piece of the archiver's output; nothing when the piece tells no progress. The archiver
+// redraws its progress in place, so what backspaces have erased is gone before the piece is read.
+std::optional<SevenZipProgress> readSevenZipProgress(const QString& piece);

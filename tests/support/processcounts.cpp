@@ -1,0 +1,84 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "processcounts.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <unistd.h>
+
+namespace {
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+qint64 statusNumber(const QByteArray& field)
+{
+    const QList<QByteArray> lines = contentOf("/proc/self/status").split('\n');
+    for (const QByteArray& line : lines) {
+        if (line.startsWith(field + ':'))
+            return line.mid(field.size() + 1).simplified().split(' ').first().toLongLong();
+    }
+    return -1;
+}
+
+// The fields of /proc/<pid>/stat behind the executable's name: state, parent, group, session, …
+QList<QByteArray> statFields(const QString& pid)
+{
+    const QByteArray stat = contentOf("/proc/" + pid + "/stat");
+    return stat.mid(stat.lastIndexOf(')') + 2).split(' ');
+}
+
+QStringList processNumbers()
+{
+    return QDir("/proc").entryList({"[0-9]*"}, QDir::Dirs);
+}
+
+} // namespace
+
+int threadCount()
+{
+    return int(statusNumber("Threads"));
+}
+
+int descriptorCount()
+{
+    return QDir("/proc/self/fd")
+        .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)
+        .size();
+}
+
+qint64 residentKilobytes()
+{
+    return statusNumber("VmRSS");
+}
+
+QList<qint64> childProcesses()
+{
+    QList<qint64> children;
+    const QByteArray self = QByteArray::number(QCoreApplication::applicationPid());
+    for (const QString& pid : processNumbers()) {
+        if (statFields(pid).value(1) == self)
+            children.append(pid.toLongLong());
+    }
+    return children;
+}
+
+QList<qint64> processesOf(const QString& executableName)
+{
+    QList<qint64> found;
+    const QByteArray session = QByteArray::number(::getsid(0));
+    for (const QString& pid : processNumbers()) {
+        const QString executable = QFile::symLinkTarget("/proc/" + pid + "/exe");
+        if (QFileInfo(executable).fileName() == executableName &&
+            statFields(pid).value(3) == session)
+            found.append(pid.toLongLong());
+    }
+    return found;
+}

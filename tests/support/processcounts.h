@@ -1,0 +1,18 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QList>
+#include <QString>
+
+// What a test process and its children hold at the moment, read from the system's process table.
+
+int threadCount();
+int descriptorCount();
+qint64 residentKilobytes();
+// Process numbers of the direct children, ended but unreaped ones included.
+QList<qint64> childProcesses();
+// Process numbers of all running processes whose executable file has this name and which this test
+// process has started, directly or not. (Their group is a child of its session.)
+QList<qint64> processesOf(const QString& executableName);
