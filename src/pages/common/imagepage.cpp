@@ -1,0 +1,220 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "imagepage.h"
+
+#include "cmytreewidget.h"
+#include "cruncommandthread.h"
+#include "nofocusdelegate.h"
+#include "scheckboxheaderview.h"
+#include "sevenzipcommand.h"
+#include "util.h"
+
+#include <QFileIconProvider>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QTableWidget>
+
+namespace {
+
+const char* const folderViewStyle =
+    "QTreeWidget { background: #E2F8FE; border: 1px solid #C2EFFD; outline: none; }";
+
+const char* const entryTableStyle =
+    "QTableWidget { background: white; gridline-color: #C2EFFD; border: 1px solid #C2EFFD;"
+    " selection-background-color: #C2EFFD; selection-color: black; }"
+    "QTableWidget::indicator { width: 12px; height: 12px; }"
+    "QHeaderView::section { font: 13pt; color: black; }";
+
+constexpr int columnCount = 4;
+constexpr int tickColumn = 0;
+constexpr int fontPixels = 14;
+
+QFont viewFont(const QWidget* widget)
+{
+    QFont font = widget->font();
+    font.setPixelSize(fontPixels);
+    font.setWeight(QFont::Normal);
+    return font;
+}
+
+} // namespace
+
+ImagePage::ImagePage(QWidget* parent)
+    : ImageDialog(parent != nullptr)
+    , folderIcon(QFileIconProvider().icon(QFileIconProvider::Folder))
+{
+}
+
+ImagePage::~ImagePage()
+{
+    delete listingRunner;
+}
+
+QTreeWidget* ImagePage::createFolderView(QPoint position, QSize size)
+{
+    QTreeWidget* const view = new CMyTreeWidget(this);
+    view->setObjectName("tree");
+    view->setGeometry(QRect(position, size));
+    view->setFixedSize(size);
+    view->setStyleSheet(folderViewStyle);
+    view->setSelectionMode(QAbstractItemView::SingleSelection);
+    view->setHeaderHidden(true);
+    view->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    view->header()->setStretchLastSection(false);
+    view->setAttribute(Qt::WA_MacShowFocusRect, false);
+    view->setItemDelegate(new NoFocusDelegate(view));
+    return view;
+}
+
+QTableWidget* ImagePage::createEntryTable(QPoint position, QSize size)
+{
+    QTableWidget* const table = new QTableWidget(0, columnCount, this);
+    table->setObjectName("list");
+    table->move(position);
+    table->setFixedSize(size);
+    table->setFont(viewFont(table));
+    SCheckBoxHeaderView* const header = new SCheckBoxHeaderView(tickColumn, Qt::Horizontal, table);
+    header->setFont(viewFont(table));
+    header->setHighlightSections(false);
+    header->setSectionsClickable(true);
+    table->setHorizontalHeader(header);
+    table->verticalHeader()->hide();
+    table->setStyleSheet(entryTableStyle);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setItemDelegate(new NoFocusDelegate(table));
+    table->setContextMenuPolicy(Qt::CustomContextMenu);
+    const int quarter = (size.width() - 2) / columnCount;
+    for (int column = 0; column < columnCount; ++column)
+        table->setColumnWidth(column, column == tickColumn ? quarter + 10 : quarter);
+    connect(header, SIGNAL(checkStausChange(bool)), this, SLOT(slotSelectAll(bool)));
+    return table;
+}
+
+void ImagePage::setTableHeaderTexts()
+{
+    // The blank in front of " Size" is part of the text.
+    entryTable->setHorizontalHeaderLabels({tr("File Name"), tr(" Size"), tr("Type"), tr("Time")});
+}
+
+void ImagePage::slotSelectAll(bool checked)
+{
+    for (int row = 0; row < entryTable->rowCount(); ++row)
+        entryTable->item(row, tickColumn)->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
+}
+
+void ImagePage::RefreshTable()
+{
+    entryTable->setRowCount(0);
+    if (!current)
+        return;
+    entryTable->setRowCount(current->children.size());
+    // One repaint at the end instead of a notice for every cell.
+    const QSignalBlocker blocker(entryTable->model());
+    int row = 0;
+    for (const Item& child : qAsConst(current->children))
+        fillRow(row++, child);
+    entryTable->viewport()->update();
+}
+
+void ImagePage::fillRow(int row, const Item& item)
+{
+    const QString name = item.GetName();
+    QTableWidgetItem* const nameCell = new QTableWidgetItem(name);
+    nameCell->setCheckState(Qt::Unchecked);
+    QString size;
+    QString type = tr("Folder");
+    if (item.isDir) {
+        nameCell->setIcon(folderIcon);
+        nameCell->setData(Qt::UserRole, 1);
+    } else {
+        nameCell->setIcon(Util::GetExtensionIcon(name));
+        size = Util::SizeToString(static_cast<long long>(item.sizeText.toULongLong()));
+        type = Util::GetExtensionString(name);
+    }
+    entryTable->setItem(row, tickColumn, nameCell);
+    entryTable->setItem(row, 1, new QTableWidgetItem(size));
+    entryTable->setItem(row, 2, new QTableWidgetItem(type));
+    entryTable->setItem(row, 3, new QTableWidgetItem(item.timeText));
+}
+
+void ImagePage::LoadFiles(Item* item, QTreeWidget* view, QTreeWidgetItem* parentNode)
+{
+    if (!item || !parentNode)
+        return;
+    for (Item& child : item->children) {
+        if (!child.isDir)
+            continue;
+        QTreeWidgetItem* const node = new QTreeWidgetItem({child.GetName()});
+        if (view)
+            view->addTopLevelItem(node);
+        else
+            parentNode->addChild(node);
+        node->setIcon(0, folderIcon);
+        node->setData(0, Qt::UserRole, QVariant::fromValue(&child));
+        LoadFiles(&child, nullptr, node);
+    }
+}
+
+QTreeWidgetItem* ImagePage::GetTreeWidgetItemByData(QTreeWidgetItem* node, Item* item) const
+{
+    if (node->data(0, Qt::UserRole).value<Item*>() == item)
+        return node;
+    for (int i = 0; i < node->childCount(); ++i) {
+        if (QTreeWidgetItem* const found = GetTreeWidgetItemByData(node->child(i), item))
+            return found;
+    }
+    return nullptr;
+}
+
+QTreeWidgetItem* ImagePage::GetTreeWidgetItemByData(QTreeWidget* view, Item* item) const
+{
+    QTreeWidgetItem* const top = view->topLevelItem(0);
+    return top ? GetTreeWidgetItemByData(top, item) : nullptr;
+}
+
+void ImagePage::OnTreeCurrentChanged()
+{
+    QTreeWidgetItem* const node = folderView->currentItem();
+    if (!node)
+        return;
+    node->setSelected(true);
+    current = node->data(0, Qt::UserRole).value<Item*>();
+    RefreshTable();
+}
+
+void ImagePage::OnListViewDoubleClicked()
+{
+    const QTableWidgetItem* const cell = entryTable->currentItem();
+    const int row = cell ? cell->row() : -1;
+    if (!current || row < 0 || row >= current->children.size() || !current->children[row].isDir)
+        return;
+    current = &current->children[row];
+    RefreshTable();
+    RefreshTreeWidget();
+}
+
+void ImagePage::RefreshTreeWidget()
+{
+    QTreeWidgetItem* const node = GetTreeWidgetItemByData(folderView, current);
+    if (!node)
+        return;
+    if (node->parent() && !node->parent()->isExpanded())
+        node->parent()->setExpanded(true);
+    folderView->clearSelection();
+    node->setSelected(true);
+    node->setExpanded(true);
+    folderView->scrollToItem(node);
+}
+
+// Escape would close the page behind the back of a listing; going back is the button's business.
+void ImagePage::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        event->ignore();
+    else
+        ImageDialog::keyPressEvent(event);
+}
