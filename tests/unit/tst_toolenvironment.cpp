@@ -7,6 +7,8 @@
 #include "testmain.h"
 #include "toolenvironment.h"
 
+#include <QTextCodec>
+
 #include <dirent.h>
 #include <thread>
 
@@ -31,8 +33,10 @@ private slots:
 
 namespace {
 
-// Set before the application object exists, as the process entry does.
+// Set before the application object exists, as the process entry does, and against a locale that
+// says otherwise.
 const bool codecSet = [] {
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1"));
     useUtf8Codec();
     return true;
 }();
