@@ -11,7 +11,8 @@
 #include <QLabel>
 #include <QProgressBar>
 
-namespace {
+namespace
+{
 
 const char barStyle[] =
     "QProgressBar{ border: none; color: white; text-align: center; background: rgb(192, 192, "

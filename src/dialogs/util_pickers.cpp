@@ -9,7 +9,8 @@
 #include <QCoreApplication>
 #include <QDir>
 
-namespace {
+namespace
+{
 
 QStringList choose(QWidget* parent, bool withFiles)
 {

@@ -9,7 +9,8 @@
 #include <QDebug>
 #include <QProcess>
 
-namespace {
+namespace
+{
 
 QByteArray untilZero(const QByteArray& bytes)
 {

@@ -11,7 +11,8 @@
 #include <QDebug>
 #include <QSettings>
 
-namespace {
+namespace
+{
 
 constexpr unsigned long guiPollMs = 10;
 // A worker leaves within two seconds of a stop; one that needs longer hangs in the system.

@@ -11,7 +11,8 @@
 #include "outputpieces.h"
 #include "util.h"
 
-namespace {
+namespace
+{
 
 // One read yields at most one byte less than this.
 constexpr int readSize = 2048;

@@ -12,7 +12,8 @@
 #include <QCoreApplication>
 #include <QDebug>
 
-namespace {
+namespace
+{
 
 constexpr int pollMs = 300;
 // How long a tool that was asked to stop may take before it is killed, and how long its end is

@@ -5,7 +5,8 @@
 
 #include <QMetaObject>
 
-namespace {
+namespace
+{
 
 constexpr int piecesPerReceipt = 256;
 constexpr int receiptsInFlight = 8;

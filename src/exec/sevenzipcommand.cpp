@@ -5,7 +5,8 @@
 
 #include "util.h"
 
-namespace {
+namespace
+{
 
 const QLatin1String extractCommand("x");
 

@@ -5,7 +5,8 @@
 
 #include "terminaltext.h"
 
-namespace {
+namespace
+{
 
 const QLatin1String percentMark("% ");
 const QLatin1String entryMark(" - ");

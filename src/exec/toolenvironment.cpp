@@ -5,7 +5,8 @@
 
 #include <QTextCodec>
 
-namespace {
+namespace
+{
 
 #ifdef Q_OS_MACOS
 const QLatin1String utf8Characters("UTF-8");

@@ -7,7 +7,8 @@
 
 #include <QEventLoop>
 
-namespace {
+namespace
+{
 
 // Runs the worker while the caller's events go on.
 void runToEnd(QThread& worker)

@@ -7,7 +7,8 @@
 
 #include <QDebug>
 
-namespace {
+namespace
+{
 
 const int limitInMilliseconds = 30000;
 

@@ -7,7 +7,8 @@
 
 #include <algorithm>
 
-namespace {
+namespace
+{
 
 // One level of a path: its cumulative path is the first `length` characters of the whole.
 struct Level

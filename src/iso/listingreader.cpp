@@ -3,7 +3,8 @@
 
 #include "listingreader.h"
 
-namespace {
+namespace
+{
 
 // A rule of dashes under the date column frames the table, above and below.
 const QLatin1String separator("-------------------");

@@ -12,7 +12,8 @@
 
 qint32 golbalLangue = 0;
 
-namespace {
+namespace
+{
 
 const char* const englishFile = "qt_en.qm";
 

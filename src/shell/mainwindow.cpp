@@ -13,7 +13,8 @@
 
 #include <cstdlib>
 
-namespace {
+namespace
+{
 
 constexpr int functionStyle = 1;
 constexpr int homeStyle = 2;

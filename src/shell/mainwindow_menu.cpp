@@ -13,7 +13,8 @@
 #include <QMenu>
 #include <QMenuBar>
 
-namespace {
+namespace
+{
 
 // The one application menu of the process, null until it is first built.
 QMenu* applicationMenu = nullptr;

@@ -16,7 +16,8 @@
 #include <sys/stat.h>
 #include <sys/types.h>
 
-namespace {
+namespace
+{
 
 const QLatin1String mountedImages("/Volumes");
 const char* const fontFamily = "Microsoft YaHei";

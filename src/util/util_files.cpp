@@ -12,7 +12,8 @@
 
 std::atomic<qint64> Util::copyedsize{0};
 
-namespace {
+namespace
+{
 
 // One for the whole process, which is why only one copy may run at a time.
 char copyBuffer[4096];

@@ -11,7 +11,8 @@
 #include <QMap>
 #include <QTemporaryFile>
 
-namespace {
+namespace
+{
 
 // What ask() finds out about a real file of that extension; fallback when none can be written.
 template<typename Value>

@@ -9,7 +9,8 @@
 
 QString goldUser;
 
-namespace {
+namespace
+{
 
 // Where the platform puts the superuser's data; the program keeps none there.
 const QLatin1String superuserHome("/var/root");

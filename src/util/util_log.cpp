@@ -8,7 +8,8 @@
 #include <QDebug>
 #include <QFile>
 
-namespace {
+namespace
+{
 
 bool isLogOn()
 {

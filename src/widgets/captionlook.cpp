@@ -3,7 +3,8 @@
 
 #include "captionlook.h"
 
-namespace {
+namespace
+{
 
 // Style numbers as the windows pass them to SetBackGround().
 enum Style

@@ -8,7 +8,8 @@
 
 #include <algorithm>
 
-namespace {
+namespace
+{
 
 const QColor focusColour(0, 98, 143);
 constexpr qreal focusLine = 1.5;

@@ -5,7 +5,8 @@
 
 #include "cbaseimagectrl.h"
 
-namespace {
+namespace
+{
 
 // Qt asks once per class of the object's ancestry, so descendants are found by the base's name.
 QAccessibleInterface* create(const QString& className, QObject* object)

@@ -11,7 +11,8 @@ static bool registerPictures()
     return true;
 }
 
-namespace {
+namespace
+{
 
 const bool picturesRegistered = registerPictures();
 constexpr qreal doubledRatio = 2.0;

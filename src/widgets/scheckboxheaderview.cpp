@@ -9,7 +9,8 @@
 
 #include <algorithm>
 
-namespace {
+namespace
+{
 
 constexpr int boxSide = 20;
 constexpr int boxMargin = 3;

@@ -14,7 +14,8 @@
 #include <QTimer>
 #include <QtTest>
 
-namespace {
+namespace
+{
 
 constexpr int interval = 20; // ms
 

@@ -10,7 +10,8 @@
 
 #include <unistd.h>
 
-namespace {
+namespace
+{
 
 QByteArray contentOf(const QString& path)
 {

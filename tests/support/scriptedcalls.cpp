@@ -6,7 +6,8 @@
 #include <QFile>
 #include <QtTest>
 
-namespace {
+namespace
+{
 
 const char argumentMark[] = "argument ";
 

@@ -28,7 +28,8 @@
 #include <thread>
 #include <unistd.h>
 
-namespace {
+namespace
+{
 
 void writeAll(int channel, const char* bytes, std::size_t count)
 {

@@ -6,7 +6,8 @@
 #include <QMutex>
 #include <QtTest>
 
-namespace {
+namespace
+{
 
 QMutex mutex;
 QStringList warnings;

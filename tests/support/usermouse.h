@@ -10,7 +10,8 @@ class QWidget;
 // The user's mouse over a shown window. Unlike the events that QtTest sends to a widget, the cursor
 // really is where the mouse is, and the buttons are really held, which picture buttons go by.
 // Positions are relative to the widget; buttons are the left one.
-namespace UserMouse {
+namespace UserMouse
+{
 
 void move(QWidget* widget, QPoint position);
 void press(QWidget* widget, QPoint position);

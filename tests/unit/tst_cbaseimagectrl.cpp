@@ -15,7 +15,8 @@
 
 #include <memory>
 
-namespace {
+namespace
+{
 
 const QSize small(20, 10);
 const QPoint corner(100, 100);

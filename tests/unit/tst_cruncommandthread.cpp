@@ -11,7 +11,8 @@
 
 #include <QPointer>
 
-namespace {
+namespace
+{
 
 QString toolPath()
 {
@@ -140,7 +141,8 @@ void TstCRunCommandThread::init()
     QFile::remove(Util::GetTempDir() + "/log.txt");
 }
 
-namespace {
+namespace
+{
 
 QStringList logLines()
 {

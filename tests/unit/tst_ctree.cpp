@@ -7,7 +7,8 @@
 
 #include <QTemporaryDir>
 
-namespace {
+namespace
+{
 
 Item fileItem(const QString& path, const QString& size = "1")
 {

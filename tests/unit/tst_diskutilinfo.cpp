@@ -21,7 +21,8 @@ private slots:
     void everyCutTextIsReadWithoutHarm();
 };
 
-namespace {
+namespace
+{
 
 QString captured(const QString& name)
 {

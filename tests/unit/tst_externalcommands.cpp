@@ -52,7 +52,8 @@ private:
     int scripts = 0;
 };
 
-namespace {
+namespace
+{
 
 const QString oddPath = QString::fromUtf8("-a  b 'c' $HOME;*? é e\u0301 光/%1 tool");
 

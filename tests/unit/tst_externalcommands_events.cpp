@@ -40,7 +40,8 @@ private:
     QString outer;
 };
 
-namespace {
+namespace
+{
 
 // Makes one call after another from a thread of its own.
 class Caller : public QThread

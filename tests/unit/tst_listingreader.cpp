@@ -6,7 +6,8 @@
 #include "testcase.h"
 #include "testmain.h"
 
-namespace {
+namespace
+{
 
 const char* const rule =
     "------------------- ----- ------------ ------------  ------------------------";

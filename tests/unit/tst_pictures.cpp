@@ -15,7 +15,8 @@
 
 #include <cmath>
 
-namespace {
+namespace
+{
 
 // One line of the list of pictures.
 struct Entry

@@ -31,7 +31,8 @@ private slots:
     void outputIsUtf8();
 };
 
-namespace {
+namespace
+{
 
 // Set before the application object exists, as the process entry does, and against a locale that
 // says otherwise.

@@ -16,7 +16,8 @@
 #include <QKeyEvent>
 #include <QTableWidget>
 
-namespace {
+namespace
+{
 
 const char* const folderViewStyle =
     "QTreeWidget { background: #E2F8FE; border: 1px solid #C2EFFD; outline: none; }";

@@ -15,7 +15,8 @@
 #include <QTableWidget>
 #include <QTreeWidget>
 
-namespace {
+namespace
+{
 
 // A click this near to the table's left edge is on the check box, which the table toggles itself.
 constexpr int checkBoxWidth = 16;

@@ -17,7 +17,8 @@
 #include <QTableWidget>
 #include <QTreeWidget>
 
-namespace {
+namespace
+{
 
 // The archiver has recreated the image's folders: the entry goes up to where the user wants it.
 void moveUp(const QString& source, const QString& destination)
