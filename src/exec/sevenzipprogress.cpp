@@ -18,11 +18,8 @@ QString lastWord(const QString& text)
     return words.mid(words.lastIndexOf(' ') + 1);
 }
 
-} // namespace
-
-std::optional<SevenZipProgress> readSevenZipProgress(const QString& piece)
+std::optional<SevenZipProgress> readLine(const QString& text)
 {
-    const QString text = eraseBackspaces(piece);
     const int percentEnd = text.indexOf(percentMark);
     const int entryMarkAt = text.indexOf(entryMark);
     if (percentEnd <= 0 || entryMarkAt <= 0)
@@ -32,4 +29,16 @@ std::optional<SevenZipProgress> readSevenZipProgress(const QString& piece)
         return std::nullopt;
     return SevenZipProgress{number.toInt(),
                             withoutControlCharacters(text.mid(entryMarkAt + entryMark.size()))};
+}
+
+} // namespace
+
+std::optional<SevenZipProgress> readSevenZipProgress(const QString& piece)
+{
+    const QStringList states = lineStates(piece);
+    for (auto state = states.rbegin(); state != states.rend(); ++state) {
+        if (const auto progress = readLine(*state))
+            return progress;
+    }
+    return std::nullopt;
 }

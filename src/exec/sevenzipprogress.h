@@ -17,5 +17,6 @@ struct SevenZipProgress
 };
 
 // Reads one piece of the archiver's output; nothing when the piece tells no progress. The archiver
-// redraws its progress in place, so what backspaces have erased is gone before the piece is read.
+// rubs its progress out with backspaces before it writes the next, at its own pace: a piece may end
+// in the middle of that. What counts is the latest state of the line that tells a progress.
 std::optional<SevenZipProgress> readSevenZipProgress(const QString& piece);

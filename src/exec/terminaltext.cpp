@@ -8,17 +8,28 @@
 
 QString eraseBackspaces(const QString& text)
 {
+    return lineStates(text).last();
+}
+
+QStringList lineStates(const QString& text)
+{
     if (!text.contains('\b'))
-        return text;
+        return {text};
+    QStringList states;
     QString shown;
-    shown.reserve(text.size());
+    bool isErasing = true;
     for (const QChar character : text) {
-        if (character == '\b')
+        const bool isEraser = character == '\b';
+        if (isEraser && !isErasing)
+            states.append(shown);
+        isErasing = isEraser;
+        if (isEraser)
             shown.chop(1);
         else
             shown.append(character);
     }
-    return shown;
+    states.append(shown);
+    return states;
 }
 
 QString withoutControlCharacters(const QString& text)

@@ -23,6 +23,7 @@ private slots:
     void progress();
     void backspaces_data();
     void backspaces();
+    void statesOfALine();
     void redrawnProgressCutAnywhere();
     void entryTextHoldsNoControlCharacter();
     void pieces_data();
@@ -116,7 +117,13 @@ void TstSevenZip::progress_data()
                              << 54 << "f2";
     QTest::newRow("no blank between erasure and number")
         << QString(QString(4, '\b') + "100% 1 - f2") << 100 << "f2";
-    QTest::newRow("erased to the end") << QString(" 54% 1 - f2" + QString(11, '\b')) << -1 << "";
+    QTest::newRow("rubbed out before the next has come")
+        << QString(" 54% 1 - f2" + QString(11, '\b') + QString(11, ' ') + QString(11, '\b')) << 54
+        << "f2";
+    QTest::newRow("next has come in part")
+        << QString(" 17% 6 - f" + QString(10, '\b') + " 22% 9") << 17 << "f";
+    QTest::newRow("only an erasure")
+        << QString(QString(4, '\b') + "    " + QString(4, '\b')) << -1 << "";
 }
 
 void TstSevenZip::progress()
@@ -150,6 +157,14 @@ void TstSevenZip::backspaces()
 {
     QFETCH(QString, text);
     QTEST(eraseBackspaces(text), "shown");
+}
+
+void TstSevenZip::statesOfALine()
+{
+    QCOMPARE(lineStates("abc"), QStringList("abc"));
+    QCOMPARE(lineStates("abc\b\bx\b"), QStringList({"abc", "ax", "a"}));
+    QCOMPARE(lineStates("\b\ba"), QStringList("a"));
+    QCOMPARE(lineStates(""), QStringList(""));
 }
 
 void TstSevenZip::redrawnProgressCutAnywhere()
