@@ -7,14 +7,21 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-// The main function of a test executable: an application whose data folder is a temporary one, so
-// that no test sees what another left or what the user has.
+// Runs a test class in an application whose data folder is a temporary one, so that no test sees
+// what another left or what the user has.
+template<typename TestClass>
+int runTests(int argc, char* argv[])
+{
+    const QTemporaryDir dataFolder;
+    qputenv("XDG_DATA_HOME", QFile::encodeName(dataFolder.path()));
+    const QApplication app(argc, argv);
+    TestClass test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+// The main function of a test executable.
 #define KORVEX_TEST_MAIN(TestClass)                                                                \
     int main(int argc, char* argv[])                                                               \
     {                                                                                              \
-        QTemporaryDir dataFolder;                                                                  \
-        qputenv("XDG_DATA_HOME", QFile::encodeName(dataFolder.path()));                            \
-        QApplication app(argc, argv);                                                              \
-        TestClass test;                                                                            \
-        return QTest::qExec(&test, argc, argv);                                                    \
+        return runTests<TestClass>(argc, argv);                                                    \
     }
