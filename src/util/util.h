@@ -88,22 +88,29 @@ public:
     // Bytes copied so far by FileCopy; callers reset it and read it to show progress. Any thread.
     static std::atomic<qint64> copyedsize;
 
+    // Copies one file; what lies at dst is deleted first, missing folders are made, permissions and
+    // times are not carried over. False when src cannot be read or dst not be opened; a failed
+    // write goes unnoticed.
     static bool FileCopy(QString src, QString dst);
     // Copies the contents of src into dst. A file whose name dst already holds is deleted on both
     // sides and ends the copy with false.
     static bool DirCopy(const QString& src, const QString& dst);
     // Copies the folder src itself into dst.
     static bool DirCopy2(const QString& src, const QString& dst);
+    // Deletes a file or an empty folder; silent on failure apart from a debug line.
     static void RemoveFile(QString path);
     // Deletes a folder with everything in it. The second argument is ignored.
     static void RemoveDir(QString path, bool recursive);
+    // True for a folder as well.
     static bool IsFileExists(QString path);
-    // Bytes of all visible files below a folder.
+    // Bytes of all visible files below a folder, links followed; 0 for a missing folder.
     static qint64 DirSize(QString path);
 
     // ---- util/: display texts --------------------------------------------------------------
 
+    // Such as "1.50 KB": factor 1024, at most two decimals, units B to GB.
     static QString SizeToString(long long bytes);
+    // yyyy-MM-dd hh:mm:ss.
     static QString QT2String(QDateTime time);
     // Collapses runs of blanks (U+0020) to one.
     static QString ReplaceBlank(QString text);

@@ -1,0 +1,235 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "testcase.h"
+#include "testfiles.h"
+#include "testmain.h"
+#include "util.h"
+
+// Copying folders. A name that the destination already holds ends the copy and costs both files;
+// that is deliberate and pinned here.
+class TstUtilDirCopy : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void contentsAreCopiedAtEveryDepth();
+    void emptyFoldersAreCopied();
+    void contentsMergeIntoAnExistingFolder();
+    void hiddenEntriesAreLeftOut();
+    void oddNamesAreCopied();
+    void clashDeletesBothFilesAndEndsWithFalse();
+    void clashLeavesWhatComesLaterByNameUncopied();
+    void clashDeepInsideEndsTheWholeCopy();
+    void fileClashingWithAFolderIsDeletedAndTheFolderKept();
+    void folderClashingWithAFileEndsWithFalse();
+    void missingSourceGivesAnEmptyFolder();
+    void trailingSlashesDoNotMatter();
+    void destinationThatCannotBeMadeIsFalse();
+    void linkToAFolderIsCopiedAsAFolder();
+    void brokenLinkIsLeftOut();
+    void folderIntoItselfEndsWithFalse();
+    void folderIsCopiedAsSubfolder();
+    void folderItselfMergesWithItsNamesake();
+    void folderItselfIntoAFileIsFalse();
+
+private:
+    QString path(const char* name) const { return folder->filePath(QString::fromUtf8(name)); }
+
+    std::unique_ptr<QTemporaryDir> folder;
+};
+
+void TstUtilDirCopy::init()
+{
+    TestCase::init();
+    folder = std::make_unique<QTemporaryDir>();
+}
+
+void TstUtilDirCopy::cleanup()
+{
+    folder.reset();
+    TestCase::cleanup();
+}
+
+void TstUtilDirCopy::contentsAreCopiedAtEveryDepth()
+{
+    writeFile(path("src/a"), "1");
+    writeFile(path("src/sub/b"), "2");
+    writeFile(path("src/sub/deep/er/c"), "3");
+    Util::copyedsize = 0;
+    QVERIFY(Util::DirCopy(path("src"), path("new/dst")));
+    QCOMPARE(readFile(path("new/dst/a")), QByteArray("1"));
+    QCOMPARE(readFile(path("new/dst/sub/b")), QByteArray("2"));
+    QCOMPARE(readFile(path("new/dst/sub/deep/er/c")), QByteArray("3"));
+    QCOMPARE(entriesOf(path("new/dst")), QStringList({"a", "sub"}));
+    QCOMPARE(entriesOf(path("src")), QStringList({"a", "sub"}));
+    QCOMPARE(Util::copyedsize.load(), qint64(3));
+}
+
+void TstUtilDirCopy::emptyFoldersAreCopied()
+{
+    QVERIFY(QDir().mkpath(path("src/empty")));
+    QVERIFY(Util::DirCopy(path("src"), path("dst")));
+    QVERIFY(QFileInfo(path("dst/empty")).isDir());
+}
+
+void TstUtilDirCopy::contentsMergeIntoAnExistingFolder()
+{
+    writeFile(path("src/sub/new"), "new");
+    writeFile(path("dst/sub/old"), "old");
+    QVERIFY(Util::DirCopy(path("src"), path("dst")));
+    QCOMPARE(entriesOf(path("dst/sub")), QStringList({"new", "old"}));
+    QCOMPARE(readFile(path("dst/sub/old")), QByteArray("old"));
+}
+
+void TstUtilDirCopy::hiddenEntriesAreLeftOut()
+{
+    writeFile(path("src/.hidden"), "1");
+    writeFile(path("src/.folder/file"), "2");
+    writeFile(path("src/seen"), "3");
+    QVERIFY(Util::DirCopy(path("src"), path("dst")));
+    QCOMPARE(entriesOf(path("dst")), QStringList("seen"));
+}
+
+void TstUtilDirCopy::oddNamesAreCopied()
+{
+    const QString name = QString::fromUtf8("-a \"b\" 'c' *? e\u0301 光盘 %1 \\");
+    writeFile(folder->filePath("src/" + name + '/' + name), "content");
+    QVERIFY(Util::DirCopy(path("src"), path("dst")));
+    QCOMPARE(entriesOf(path("dst")), QStringList(name));
+    QCOMPARE(readFile(folder->filePath("dst/" + name + '/' + name)), QByteArray("content"));
+}
+
+void TstUtilDirCopy::clashDeletesBothFilesAndEndsWithFalse()
+{
+    writeFile(path("src/same"), "source");
+    writeFile(path("dst/same"), "destination");
+    QVERIFY(!Util::DirCopy(path("src"), path("dst")));
+    QVERIFY(!QFile::exists(path("src/same")));
+    QVERIFY(!QFile::exists(path("dst/same")));
+}
+
+void TstUtilDirCopy::clashLeavesWhatComesLaterByNameUncopied()
+{
+    for (const char* name : {"src/B", "src/a", "src/c", "src/D"})
+        writeFile(path(name), name);
+    writeFile(path("dst/c"), "destination");
+    QVERIFY(!Util::DirCopy(path("src"), path("dst")));
+    // By name whatever the case: a, B, c, D.
+    QCOMPARE(entriesOf(path("dst")), QStringList({"B", "a"}));
+    QCOMPARE(entriesOf(path("src")), QStringList({"B", "D", "a"}));
+}
+
+void TstUtilDirCopy::clashDeepInsideEndsTheWholeCopy()
+{
+    writeFile(path("src/a/b/same"), "source");
+    writeFile(path("src/z"), "later");
+    writeFile(path("dst/a/b/same"), "destination");
+    QVERIFY(!Util::DirCopy(path("src"), path("dst")));
+    QVERIFY(entriesOf(path("src/a/b")).isEmpty());
+    QVERIFY(entriesOf(path("dst/a/b")).isEmpty());
+    QVERIFY(!QFile::exists(path("dst/z")));
+}
+
+void TstUtilDirCopy::fileClashingWithAFolderIsDeletedAndTheFolderKept()
+{
+    writeFile(path("src/same"), "source");
+    writeFile(path("dst/same/inside"), "kept");
+    QVERIFY(!Util::DirCopy(path("src"), path("dst")));
+    QVERIFY(!QFile::exists(path("src/same")));
+    QCOMPARE(readFile(path("dst/same/inside")), QByteArray("kept"));
+}
+
+void TstUtilDirCopy::folderClashingWithAFileEndsWithFalse()
+{
+    writeFile(path("src/same/inside"), "kept");
+    writeFile(path("dst/same"), "kept too");
+    QVERIFY(!Util::DirCopy(path("src"), path("dst")));
+    QCOMPARE(readFile(path("src/same/inside")), QByteArray("kept"));
+    QCOMPARE(readFile(path("dst/same")), QByteArray("kept too"));
+}
+
+void TstUtilDirCopy::missingSourceGivesAnEmptyFolder()
+{
+    QVERIFY(Util::DirCopy(path("missing"), path("dst")));
+    QVERIFY(QFileInfo(path("dst")).isDir());
+    QVERIFY(entriesOf(path("dst")).isEmpty());
+}
+
+void TstUtilDirCopy::trailingSlashesDoNotMatter()
+{
+    writeFile(path("src/sub/a"), "1");
+    QVERIFY(Util::DirCopy(path("src/"), path("dst/")));
+    QCOMPARE(readFile(path("dst/sub/a")), QByteArray("1"));
+    QVERIFY(Util::DirCopy2(path("src/"), path("dst2/")));
+    QCOMPARE(readFile(path("dst2/src/sub/a")), QByteArray("1"));
+}
+
+void TstUtilDirCopy::destinationThatCannotBeMadeIsFalse()
+{
+    writeFile(path("src/a"), "1");
+    writeFile(path("file"), "kept");
+    QVERIFY(!Util::DirCopy(path("src"), path("file/dst")));
+    QVERIFY(!Util::DirCopy(path("src"), path("file")));
+    QCOMPARE(readFile(path("file")), QByteArray("kept"));
+}
+
+void TstUtilDirCopy::linkToAFolderIsCopiedAsAFolder()
+{
+    writeFile(path("elsewhere/a"), "1");
+    QVERIFY(QDir().mkpath(path("src")));
+    QVERIFY(QFile::link(path("elsewhere"), path("src/link")));
+    QVERIFY(Util::DirCopy(path("src"), path("dst")));
+    QVERIFY(!QFileInfo(path("dst/link")).isSymLink());
+    QCOMPARE(readFile(path("dst/link/a")), QByteArray("1"));
+}
+
+void TstUtilDirCopy::brokenLinkIsLeftOut()
+{
+    writeFile(path("src/z"), "1");
+    QVERIFY(QFile::link(path("missing"), path("src/link")));
+    QVERIFY(Util::DirCopy(path("src"), path("dst")));
+    QCOMPARE(entriesOf(path("dst")), QStringList("z"));
+}
+
+// The copy finds itself in the folder it copies, until no path gets longer.
+void TstUtilDirCopy::folderIntoItselfEndsWithFalse()
+{
+    const QString name(200, 'n');
+    writeFile(folder->filePath(name + "/file"), "1");
+    QVERIFY(!Util::DirCopy2(folder->filePath(name), folder->filePath(name)));
+    QCOMPARE(readFile(folder->filePath(name + "/file")), QByteArray("1"));
+}
+
+void TstUtilDirCopy::folderIsCopiedAsSubfolder()
+{
+    writeFile(path("a/b/file"), "1");
+    writeFile(path("a/b/sub/file"), "2");
+    QVERIFY(Util::DirCopy2(path("a/b"), path("c")));
+    QCOMPARE(entriesOf(path("c")), QStringList("b"));
+    QCOMPARE(readFile(path("c/b/file")), QByteArray("1"));
+    QCOMPARE(readFile(path("c/b/sub/file")), QByteArray("2"));
+}
+
+void TstUtilDirCopy::folderItselfMergesWithItsNamesake()
+{
+    writeFile(path("a/b/new"), "new");
+    writeFile(path("c/b/old"), "old");
+    QVERIFY(Util::DirCopy2(path("a/b"), path("c")));
+    QCOMPARE(entriesOf(path("c/b")), QStringList({"new", "old"}));
+}
+
+void TstUtilDirCopy::folderItselfIntoAFileIsFalse()
+{
+    writeFile(path("a/b/new"), "new");
+    writeFile(path("c"), "kept");
+    QVERIFY(!Util::DirCopy2(path("a/b"), path("c")));
+    QCOMPARE(readFile(path("c")), QByteArray("kept"));
+}
+
+KORVEX_TEST_MAIN(TstUtilDirCopy)
+
+#include "tst_util_dircopy.moc"
