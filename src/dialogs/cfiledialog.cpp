@@ -4,7 +4,6 @@
 #include "cfiledialog.h"
 
 #include <QDialogButtonBox>
-#include <QFileSystemModel>
 #include <QListView>
 #include <QPushButton>
 #include <QTreeView>
@@ -41,24 +40,15 @@ void CFileDialog::onChiose()
 void CFileDialog::onSelectionChanged()
 {
     // The base goes by the typed line, into which it writes no folders.
-    if (!selectedInView().isEmpty())
+    if (findChild<QListView*>("listView")->selectionModel()->hasSelection())
         buttonBox->button(QDialogButtonBox::Open)->setEnabled(true);
-}
-
-QStringList CFileDialog::selectedInView() const
-{
-    QStringList paths;
-    const auto* list = findChild<QListView*>("listView");
-    for (const QModelIndex& index : list->selectionModel()->selectedRows())
-        paths.append(index.data(QFileSystemModel::FilePathRole).toString());
-    return paths;
 }
 
 QStringList CFileDialog::selectedFiles() const
 {
-    QStringList paths = selectedInView();
-    if (!paths.isEmpty())
-        return paths;
+    // What is selected in the list or, without a selection, what is typed; onChiose() has let the
+    // latter pass unseen.
+    QStringList paths;
     for (const QString& path : QFileDialog::selectedFiles()) {
         const QFileInfo info(path);
         if (info.isDir() || (withFiles && info.exists()))

@@ -17,8 +17,8 @@ public:
     // withFiles shows files beside the folders.
     CFileDialog(QWidget* parent, bool withFiles);
 
-    // Absolute paths of what is selected in the list; without a selection, of what is typed, as far
-    // as it exists and may be chosen. Hides the base's function, which drops folders.
+    // Absolute paths of the choice as far as it exists and may be chosen: what is selected in the
+    // list or, without a selection, what is typed. Hides the base's function.
     QStringList selectedFiles() const;
 
 public slots:
@@ -29,8 +29,6 @@ private slots:
     void onSelectionChanged();
 
 private:
-    QStringList selectedInView() const;
-
     bool withFiles;
     QDialogButtonBox* buttonBox;
 };
