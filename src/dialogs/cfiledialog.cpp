@@ -5,7 +5,6 @@
 
 #include <QDialogButtonBox>
 #include <QListView>
-#include <QPushButton>
 #include <QTreeView>
 
 CFileDialog::CFileDialog(QWidget* parent, bool files)
@@ -24,10 +23,8 @@ CFileDialog::CFileDialog(QWidget* parent, bool files)
     list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     auto* details = findChild<QTreeView*>("treeView");
     details->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    connect(list->selectionModel(), SIGNAL(selectionChanged(QItemSelection, QItemSelection)), this,
-            SLOT(onSelectionChanged()));
 
-    buttonBox = findChild<QDialogButtonBox*>("buttonBox");
+    auto* buttonBox = findChild<QDialogButtonBox*>("buttonBox");
     disconnect(buttonBox, SIGNAL(accepted()), this, SLOT(accept()));
     connect(buttonBox, SIGNAL(accepted()), this, SLOT(onChiose()));
 }
@@ -35,13 +32,6 @@ CFileDialog::CFileDialog(QWidget* parent, bool files)
 void CFileDialog::onChiose()
 {
     QDialog::accept();
-}
-
-void CFileDialog::onSelectionChanged()
-{
-    // The base goes by the typed line, into which it writes no folders.
-    if (findChild<QListView*>("listView")->selectionModel()->hasSelection())
-        buttonBox->button(QDialogButtonBox::Open)->setEnabled(true);
 }
 
 QStringList CFileDialog::selectedFiles() const

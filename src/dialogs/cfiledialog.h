@@ -5,8 +5,6 @@
 
 #include <QFileDialog>
 
-class QDialogButtonBox;
-
 // Chooses several folders, or files and folders together, which the toolkit's own dialog does not
 // offer. Util's GetDirsDialog() and GetDirsAndFilesDialog() run it.
 class CFileDialog : public QFileDialog
@@ -25,10 +23,6 @@ public slots:
     // Accepts the choice without the base's check for one existing file. Spelled so.
     void onChiose();
 
-private slots:
-    void onSelectionChanged();
-
 private:
     bool withFiles;
-    QDialogButtonBox* buttonBox;
 };

@@ -42,6 +42,10 @@ private:
     // Photographs the message box that show() opens and closes it.
     void shootModal(const std::function<void()>& show, const QString& name);
 
+    static QList<CImageButton*> addButtons(QWidget* window);
+    // Normal, hover, pressed, disabled, focused.
+    static QList<QPixmap> statesOf(CImageButton* button);
+
     QString folder;
 };
 
@@ -185,8 +189,7 @@ void TstDialogPictures::checkBoxHeader()
     shoot(&table, "check-box-header");
 }
 
-// The dialogs' buttons, row by row: normal, hover, pressed, disabled, focused.
-void TstDialogPictures::buttonStates()
+QList<CImageButton*> TstDialogPictures::addButtons(QWidget* window)
 {
     struct Kind
     {
@@ -200,14 +203,9 @@ void TstDialogPictures::buttonStates()
         {"Stop", {"Stop1", "Stop2", "Stop3", "Stop4"}, 12},
         {"Open Folder", {"Open-Folder1", "Open-Folder2", "Open-Folder2", "Open-Folder3"}, 13},
     };
-    QWidget window;
-    window.setGeometry(0, 0, 4 * 130 + 10, 5 * 40 + 10);
-    QPixmap sheet(window.size() * window.devicePixelRatioF());
-    sheet.setDevicePixelRatio(window.devicePixelRatioF());
-    sheet.fill(Qt::white);
     QList<CImageButton*> buttons;
     for (const Kind& kind : kinds) {
-        auto* button = new CImageButton(&window);
+        auto* button = new CImageButton(window);
         QStringList paths;
         for (const char* picture : kind.pictures)
             paths.append(QString(":/nwu/") + picture);
@@ -215,35 +213,48 @@ void TstDialogPictures::buttonStates()
         button->move(10 + 130 * buttons.size(), 10);
         buttons.append(button);
     }
+    return buttons;
+}
+
+QList<QPixmap> TstDialogPictures::statesOf(CImageButton* button)
+{
+    QList<QPixmap> states;
+    UserMouse::moveAway(button);
+    states.append(button->grab());
+    UserMouse::move(button, QPoint(5, 5));
+    states.append(button->grab());
+    UserMouse::press(button, QPoint(5, 5));
+    states.append(button->grab());
+    UserMouse::release(button, QPoint(5, 5));
+    UserMouse::moveAway(button);
+    button->setEnabled(false);
+    states.append(button->grab());
+    button->setEnabled(true);
+    button->setFocus(Qt::TabFocusReason);
+    states.append(button->grab());
+    return states;
+}
+
+// The dialogs' buttons, row by row: normal, hover, pressed, disabled, focused.
+void TstDialogPictures::buttonStates()
+{
+    QWidget window;
+    window.setGeometry(0, 0, 4 * 130 + 10, 5 * 40 + 10);
+    const QList<CImageButton*> buttons = addButtons(&window);
     window.setFocus();
     window.show();
     QVERIFY(QTest::qWaitForWindowActive(&window));
 
+    QPixmap sheet(window.size() * window.devicePixelRatioF());
+    sheet.setDevicePixelRatio(window.devicePixelRatioF());
+    sheet.fill(Qt::white);
     QPainter painter(&sheet);
     for (CImageButton* button : buttons) {
-        const auto add = [&](int row) {
-            const QPixmap shot = button->grab();
-            painter.drawPixmap(button->pos() + QPoint(0, 40 * row), shot);
-            return shot.toImage();
-        };
-        QList<QImage> states;
-        UserMouse::moveAway(button);
-        states.append(add(0));
-        UserMouse::move(button, QPoint(5, 5));
-        states.append(add(1));
-        UserMouse::press(button, QPoint(5, 5));
-        states.append(add(2));
-        UserMouse::release(button, QPoint(5, 5));
-        UserMouse::moveAway(button);
-        button->setEnabled(false);
-        states.append(add(3));
-        button->setEnabled(true);
-        button->setFocus(Qt::TabFocusReason);
-        states.append(add(4));
-        QVERIFY(states[0] != states[1]);
-        QVERIFY(states[0] != states[2]);
-        QVERIFY(states[0] != states[3]);
-        QVERIFY(states[0] != states[4]);
+        const QList<QPixmap> states = statesOf(button);
+        for (int i = 0; i < states.size(); ++i) {
+            painter.drawPixmap(button->pos() + QPoint(0, 40 * i), states[i]);
+            QVERIFY(i == 0 || states[i].toImage() != states[0].toImage());
+        }
     }
     painter.end();
     QVERIFY(sheet.save(folder + "/dialog-buttons.png"));

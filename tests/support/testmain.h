@@ -7,13 +7,14 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-// The main function of a test executable: an application whose data folder is a temporary one, so
-// that no test sees what another left or what the user has.
+// The main function of a test executable: an application whose data and settings folder is a
+// temporary one, so that no test sees what another left or what the user has.
 #define KORVEX_TEST_MAIN(TestClass)                                                                \
     int main(int argc, char* argv[])                                                               \
     {                                                                                              \
         QTemporaryDir dataFolder;                                                                  \
         qputenv("XDG_DATA_HOME", QFile::encodeName(dataFolder.path()));                            \
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(dataFolder.path()));                          \
         QApplication app(argc, argv);                                                              \
         TestClass test;                                                                            \
         return QTest::qExec(&test, argc, argv);                                                    \

@@ -4,13 +4,13 @@
 #include "cimagebutton.h"
 #include "commdialog.h"
 #include "modaldriver.h"
+#include "otherlanguage.h"
 #include "testcase.h"
 #include "testmain.h"
 #include "usermouse.h"
 
 #include <QDesktopServices>
 #include <QLabel>
-#include <QTranslator>
 #include <QUrl>
 
 // Stands in for the desktop's file browser.
@@ -26,19 +26,6 @@ public:
 
 public slots:
     void open(const QUrl& address) { opened.append(QDir::cleanPath(address.path())); }
-};
-
-// Turns every text into its upper case, as if that were a language.
-class Shouting : public QTranslator
-{
-    Q_OBJECT
-
-public:
-    QString translate(const char*, const char* text, const char*, int) const override
-    {
-        return QString(text).toUpper();
-    }
-    bool isEmpty() const override { return false; }
 };
 
 class TstCommDialog : public TestCase
@@ -265,7 +252,7 @@ void TstCommDialog::captionsFollowTheLanguage()
     dialog.SetOpen("/tmp");
     dialog.SetText("Done.");
     dialog.show();
-    Shouting language;
+    OtherLanguage language;
     QVERIFY(QCoreApplication::installTranslator(&language));
     QCoreApplication::processEvents();
     QCOMPARE(part(dialog, "btncancel")->accessibleName(), QString("OPEN FOLDER"));

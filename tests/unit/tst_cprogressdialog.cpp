@@ -3,6 +3,7 @@
 
 #include "cimagebutton.h"
 #include "cprogressdialog.h"
+#include "otherlanguage.h"
 #include "testcase.h"
 #include "testmain.h"
 #include "usermouse.h"
@@ -10,23 +11,9 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QSignalSpy>
-#include <QTranslator>
 #include <QWindow>
 
 #include <climits>
-
-// Calls Stop by another name, as if that were a language.
-class Halting : public QTranslator
-{
-    Q_OBJECT
-
-public:
-    QString translate(const char*, const char* text, const char*, int) const override
-    {
-        return qstrcmp(text, "Stop") == 0 ? "Halt" : QString();
-    }
-    bool isEmpty() const override { return false; }
-};
 
 class TstCProgressDialog : public TestCase
 {
@@ -272,10 +259,10 @@ void TstCProgressDialog::returnAndSpaceDoNothingUnfocused()
 void TstCProgressDialog::captionFollowsTheLanguage()
 {
     CProgressDialog dialog(nullptr);
-    Halting language;
+    OtherLanguage language;
     QVERIFY(QCoreApplication::installTranslator(&language));
     QCoreApplication::processEvents();
-    QCOMPARE(stop(dialog)->accessibleName(), QString("Halt"));
+    QCOMPARE(stop(dialog)->accessibleName(), QString("STOP"));
     QCOMPARE(stop(dialog)->pos(), QPoint(325, 140));
     QCoreApplication::removeTranslator(&language);
     QCoreApplication::processEvents();
