@@ -54,8 +54,9 @@ void TstUtilPickers::initTestCase()
     QVERIFY(dir.mkdir("inner two"));
     QVERIFY(QFile(path("a.iso")).open(QFile::WriteOnly));
     QVERIFY(QFile(path("b.iso")).open(QFile::WriteOnly));
-    // Only folders and files of ours are offered where the pickers start.
+    // The pickers start in the current folder or in the user's own.
     QVERIFY(QDir::setCurrent(folder.path()));
+    QVERIFY(qputenv("HOME", QFile::encodeName(path("inner one"))));
 }
 
 void TstUtilPickers::check(const QFileDialog* dialog, const Expected& expected)
