@@ -4,9 +4,7 @@
 #include "cfiledialog.h"
 
 #include <QDialogButtonBox>
-#include <QFileSystemModel>
 #include <QListView>
-#include <QPushButton>
 #include <QTreeView>
 
 CFileDialog::CFileDialog(QWidget* parent, bool files)
@@ -25,10 +23,8 @@ CFileDialog::CFileDialog(QWidget* parent, bool files)
     list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     auto* details = findChild<QTreeView*>("treeView");
     details->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    connect(list->selectionModel(), SIGNAL(selectionChanged(QItemSelection, QItemSelection)), this,
-            SLOT(onSelectionChanged()));
 
-    buttonBox = findChild<QDialogButtonBox*>("buttonBox");
+    auto* buttonBox = findChild<QDialogButtonBox*>("buttonBox");
     disconnect(buttonBox, SIGNAL(accepted()), this, SLOT(accept()));
     connect(buttonBox, SIGNAL(accepted()), this, SLOT(onChiose()));
 }
@@ -38,27 +34,11 @@ void CFileDialog::onChiose()
     QDialog::accept();
 }
 
-void CFileDialog::onSelectionChanged()
-{
-    // The base goes by the typed line, into which it writes no folders.
-    if (!selectedInView().isEmpty())
-        buttonBox->button(QDialogButtonBox::Open)->setEnabled(true);
-}
-
-QStringList CFileDialog::selectedInView() const
-{
-    QStringList paths;
-    const auto* list = findChild<QListView*>("listView");
-    for (const QModelIndex& index : list->selectionModel()->selectedRows())
-        paths.append(index.data(QFileSystemModel::FilePathRole).toString());
-    return paths;
-}
-
 QStringList CFileDialog::selectedFiles() const
 {
-    QStringList paths = selectedInView();
-    if (!paths.isEmpty())
-        return paths;
+    // What is selected in the list or, without a selection, what is typed; onChiose() has let the
+    // latter pass unseen.
+    QStringList paths;
     for (const QString& path : QFileDialog::selectedFiles()) {
         const QFileInfo info(path);
         if (info.isDir() || (withFiles && info.exists()))

@@ -5,8 +5,6 @@
 
 #include <QFileDialog>
 
-class QDialogButtonBox;
-
 // Chooses several folders, or files and folders together, which the toolkit's own dialog does not
 // offer. Util's GetDirsDialog() and GetDirsAndFilesDialog() run it.
 class CFileDialog : public QFileDialog
@@ -17,20 +15,14 @@ public:
     // withFiles shows files beside the folders.
     CFileDialog(QWidget* parent, bool withFiles);
 
-    // Absolute paths of what is selected in the list; without a selection, of what is typed, as far
-    // as it exists and may be chosen. Hides the base's function, which drops folders.
+    // Absolute paths of the choice as far as it exists and may be chosen: what is selected in the
+    // list or, without a selection, what is typed. Hides the base's function.
     QStringList selectedFiles() const;
 
 public slots:
     // Accepts the choice without the base's check for one existing file. Spelled so.
     void onChiose();
 
-private slots:
-    void onSelectionChanged();
-
 private:
-    QStringList selectedInView() const;
-
     bool withFiles;
-    QDialogButtonBox* buttonBox;
 };

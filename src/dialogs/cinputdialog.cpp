@@ -12,6 +12,9 @@ CInputDialog::CInputDialog(QWidget* parent)
 {
     lineEdit->setObjectName("lineEdit");
     lineEdit->setGeometry(40, 100, 360, 20);
+    QFont font = lineEdit->font();
+    font.setPixelSize(13); // the label's
+    lineEdit->setFont(font);
     textLabel()->setGeometry(40, 60, 340, 25);
     textLabel()->setBuddy(lineEdit);
     CInputDialog::retranslate();

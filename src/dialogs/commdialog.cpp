@@ -12,9 +12,9 @@
 
 CommDialog::CommDialog(QWidget* parent)
     : ImageDialog(parent != nullptr)
-    , btnclose(new CImageButton(this))
     , btnok(new CImageButton(this))
     , btncancel(new CImageButton(this))
+    , btnclose(new CImageButton(this))
     , label(new QLabel(this))
 {
     buildForm();
@@ -38,8 +38,6 @@ void CommDialog::buildForm()
     btnok->setGeometry(80, 140, 91, 21);
     btncancel->setObjectName("btncancel");
     btncancel->setGeometry(260, 140, 91, 21);
-    setTabOrder(btnok, btncancel);
-    setTabOrder(btncancel, btnclose);
 
     label->setObjectName("label");
     label->setGeometry(40, 50, 340, 80); // ends above the buttons

@@ -51,9 +51,10 @@ protected:
 private:
     void buildForm();
 
-    CImageButton* btnclose;
+    // Created in this order, in which Tab goes through them.
     CImageButton* btnok;
     CImageButton* btncancel;
+    CImageButton* btnclose;
     QLabel* label;
     QString openPath;
 };

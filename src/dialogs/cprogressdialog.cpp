@@ -33,6 +33,9 @@ CProgressDialog::CProgressDialog(QWidget* parent)
     progressBar->setGeometry(40, 100, 360, 20);
     progressBar->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     progressBar->setStyleSheet(barStyle);
+    QFont font = progressBar->font();
+    font.setPixelSize(13); // the label's
+    progressBar->setFont(font);
 
     textLabel()->setGeometry(40, 60, 340, 25);
     CProgressDialog::retranslate();

@@ -69,9 +69,6 @@ void GerneralDialog::place(CImageButton* button, int y, int x)
 {
     button->move(x == 0 ? (width() - button->width()) / 2 : x, y + 10);
     button->show();
-    // Tab goes through the buttons before it reaches the close button.
-    if (btnclose)
-        setTabOrder(button, btnclose);
 }
 
 void GerneralDialog::keyPressEvent(QKeyEvent* event)

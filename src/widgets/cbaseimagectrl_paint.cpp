@@ -82,7 +82,13 @@ void CBaseImageCtrl::drawTexts(QPainter& painter, CaptionLook::State state) cons
 void CBaseImageCtrl::drawFocusMark(QPainter& painter) const
 {
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(focusColour, focusLine));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), focusRadius, focusRadius);
+    // With a white line inside, so that it stands out on filled buttons, too.
+    const auto draw = [&](const QColor& colour, qreal inset) {
+        painter.setPen(QPen(colour, focusLine));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), focusRadius,
+                                focusRadius);
+    };
+    draw(Qt::white, 1 + focusLine);
+    draw(focusColour, 1);
 }

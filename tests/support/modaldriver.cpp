@@ -6,6 +6,7 @@
 #include "usermouse.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -89,6 +90,9 @@ void ModalDriver::typePath(const QString& path)
             fail("the file dialog has no line to type into or no button to accept it");
             return;
         }
+        // The first key typed drops the selection of the list; a text that is set adds to it.
+        for (QAbstractItemView* view : dialog->findChildren<QAbstractItemView*>("listView"))
+            view->clearSelection();
         edit->setFocus();
         edit->setText(path);
         if (!accept->isEnabled())
@@ -110,8 +114,10 @@ bool ModalDriver::done() const
 
 bool ModalDriver::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Hide && watched == answered)
+    if (event->type() == QEvent::Hide && watched == answered) {
         answered.clear();
+        waited = 0;
+    }
     return false;
 }
 
@@ -121,10 +127,17 @@ void ModalDriver::poll()
     // for it.
     QTimer::singleShot(interval, this, SLOT(poll()));
     QWidget* dialog = QApplication::activeModalWidget();
-    if (dialog && dialog->isVisible() && dialog != answered)
+    if (dialog && dialog->isVisible() && dialog != answered && !isPassedOver(dialog))
         poll(dialog);
-    else if (!answers.isEmpty() && (waited += interval) > timeout)
-        fail("no dialog came in time for the answer to " + answers.first().dialogClass);
+    else if ((answered || !answers.isEmpty()) && (waited += interval) > timeout)
+        fail(answered ? QString("the dialog that says \"%1\" stayed open").arg(seen.last())
+                      : "no dialog came for the answer to " + answers.first().dialogClass);
+}
+
+bool ModalDriver::isPassedOver(const QWidget* dialog) const
+{
+    return dialog->inherits("CProgressDialog") &&
+           (answers.isEmpty() || answers.first().dialogClass != "CProgressDialog");
 }
 
 void ModalDriver::poll(QWidget* dialog)
@@ -151,6 +164,7 @@ void ModalDriver::poll(QWidget* dialog)
 void ModalDriver::fail(const QString& reason)
 {
     answers.clear();
+    answered.clear();
     QTest::qFail(qPrintable(reason), __FILE__, __LINE__);
     while (QWidget* modal = QApplication::activeModalWidget()) {
         if (auto* dialog = qobject_cast<QDialog*>(modal))

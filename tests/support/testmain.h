@@ -7,13 +7,14 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-// Runs a test class in an application whose data folder is a temporary one, so that no test sees
-// what another left or what the user has.
+// Runs a test class in an application whose data and settings folder is a temporary one, so that no
+// test sees what another left or what the user has.
 template<typename TestClass>
 int runTests(int argc, char* argv[])
 {
     const QTemporaryDir dataFolder;
     qputenv("XDG_DATA_HOME", QFile::encodeName(dataFolder.path()));
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(dataFolder.path()));
     const QApplication app(argc, argv);
     TestClass test;
     return QTest::qExec(&test, argc, argv);

@@ -12,8 +12,12 @@ void UserMouse::move(QWidget* widget, QPoint position)
 {
     QWidget* top = widget->window();
     const QPoint inWindow = widget->mapTo(top, position);
-    QCursor::setPos(top->mapToGlobal(inWindow));
-    QTest::mouseMove(top->windowHandle(), inWindow);
+    // By way of a neighbouring pixel: a window that opens under a resting mouse is only told of the
+    // mouse when it moves.
+    for (const QPoint step : {inWindow + QPoint(1, 1), inWindow}) {
+        QCursor::setPos(top->mapToGlobal(step));
+        QTest::mouseMove(top->windowHandle(), step);
+    }
     QCoreApplication::processEvents();
 }
 

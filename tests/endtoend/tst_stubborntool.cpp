@@ -1,0 +1,98 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "extractsession.h"
+#include "processcounts.h"
+#include "scriptedcalls.h"
+#include "testcase.h"
+#include "testmain.h"
+
+#include <QLabel>
+#include <QTemporaryDir>
+
+namespace
+{
+
+constexpr int stops = 51; // a third of them at each moment
+constexpr int stopLimitMs = 2000;
+
+QString toolPath()
+{
+    return QCoreApplication::applicationDirPath() + "/7z/7z";
+}
+
+} // namespace
+
+// Stop with a tool that ignores the polite request and has a child that would hold its pipes.
+class TstStubbornTool : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void fiftyStopsInARow();
+    void stopUnderAFlood();
+
+private:
+    void beginExtraction();
+
+    QTemporaryDir folder;
+    std::unique_ptr<ExtractSession> session;
+};
+
+void TstStubbornTool::init()
+{
+    TestCase::init();
+    ScriptedCalls(toolPath()).setScript({"file 4096 " KORVEX_TEST_DATA "/7z/list-plain-26.02.txt"});
+    session = std::make_unique<ExtractSession>();
+    QVERIFY(session->load(KORVEX_TEST_DATA "/7z/list-plain-26.02.txt"));
+}
+
+void TstStubbornTool::beginExtraction()
+{
+    QVERIFY(session->tick({"big.bin"}));
+    session->beginExtraction(folder.path());
+}
+
+void TstStubbornTool::fiftyStopsInARow()
+{
+    ScriptedCalls(toolPath())
+        .setScript({"ignore-term", "child 60000", "out 10% 1 - big.bin\\n", "sleep 60000"});
+    int threads = 0;
+    int descriptors = 0;
+    for (int run = 0; run < stops; ++run) {
+        beginExtraction();
+        // At once, a little later, or when it is known to ignore the request.
+        if (run % 3 == 1)
+            QTest::qWait(20);
+        const QLabel* const text = session->progressText();
+        if (run % 3 == 2)
+            QTRY_COMPARE(text->text(), QString("Extracting files: big.bin"));
+        session->pressStop();
+        QVERIFY(session->isUsable());
+        QVERIFY(QTest::qWaitFor([] { return processesOf("scriptedtool").isEmpty(); }, stopLimitMs));
+        QVERIFY(childProcesses().isEmpty());
+        QVERIFY2(!QApplication::activeModalWidget(), "a success message after Stop");
+        if (run == 2) {
+            QTest::qWait(100);
+            threads = threadCount();
+            descriptors = descriptorCount();
+        }
+    }
+    // The worker of the last stop frees itself when the event loop gets to it.
+    QTRY_COMPARE(threadCount(), threads);
+    QTRY_COMPARE(descriptorCount(), descriptors);
+}
+
+void TstStubbornTool::stopUnderAFlood()
+{
+    ScriptedCalls(toolPath()).setScript({"ignore-term", "flood 100000"});
+    beginExtraction();
+    QTest::qWait(500);
+    session->pressStop();
+    QVERIFY(session->isUsable());
+    QVERIFY(QTest::qWaitFor([] { return childProcesses().isEmpty(); }, stopLimitMs));
+}
+
+KORVEX_TEST_MAIN(TstStubbornTool)
+#include "tst_stubborntool.moc"
