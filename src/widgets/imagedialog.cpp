@@ -3,9 +3,50 @@
 
 #include "imagedialog.h"
 
+#include <QApplication>
+#include <QMainWindow>
+#include <QWindow>
+
+namespace
+{
+
+// The window in use, or the main window while none of ours is.
+QWidget* windowInUse()
+{
+    if (QWidget* const active = QApplication::activeWindow())
+        return active;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* const window : windows) {
+        if (qobject_cast<QMainWindow*>(window) && window->isVisible())
+            return window;
+    }
+    return nullptr;
+}
+
+void putOver(QWidget* dialog, const QWidget* owner)
+{
+    dialog->winId(); // makes the native window that can belong to another
+    dialog->windowHandle()->setTransientParent(owner->windowHandle());
+    QRect rectangle = dialog->rect();
+    rectangle.moveCenter(owner->frameGeometry().center());
+    dialog->move(rectangle.topLeft());
+}
+
+} // namespace
+
 ImageDialog::ImageDialog(bool modal)
 {
     setModal(modal);
+}
+
+void ImageDialog::setVisible(bool visible)
+{
+    if (visible && isWindow() && !isVisible()) {
+        const QWidget* const owner = windowInUse();
+        if (owner && owner != this)
+            putOver(this, owner);
+    }
+    ImageWindow<QDialog>::setVisible(visible);
 }
 
 void ImageDialog::slot_minWindow()

@@ -18,6 +18,9 @@ public:
     // else stands on its own. modal blocks the other windows while the dialog shows.
     explicit ImageDialog(bool modal = true);
 
+    // A dialog of its own comes up over the window that is in use and stays above it.
+    void setVisible(bool visible) override;
+
 public slots:
     void slot_minWindow();
 

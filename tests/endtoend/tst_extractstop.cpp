@@ -66,7 +66,6 @@ void TstExtractStop::fiftyStopsInARow()
 {
     ExtractSession session;
     QVERIFY(session.load(image));
-    int threads = 0;
     int descriptors = 0;
     for (int run = 0; run < stops; ++run) {
         QVERIFY(session.tick(names));
@@ -80,14 +79,11 @@ void TstExtractStop::fiftyStopsInARow()
         QTest::qWait(50);
         QVERIFY2(!QApplication::activeModalWidget(), "a success message after Stop");
         QVERIFY(QDir(output).removeRecursively() && QDir().mkpath(output));
-        if (run == 2) {
-            threads = threadCount();
+        QTRY_COMPARE(runnerThreadCount(), 0);
+        if (run == 2)
             descriptors = descriptorCount();
-        }
     }
-    // The worker of the last stop frees itself when the event loop gets to it.
-    QTRY_COMPARE(threadCount(), threads);
-    QCOMPARE(descriptorCount(), descriptors);
+    QVERIFY(descriptorCount() <= descriptors);
 }
 
 void TstExtractStop::extractionAfterAStopIsWhole()

@@ -58,7 +58,6 @@ void TstStubbornTool::fiftyStopsInARow()
 {
     ScriptedCalls(toolPath())
         .setScript({"ignore-term", "child 60000", "out 10% 1 - big.bin\\n", "sleep 60000"});
-    int threads = 0;
     int descriptors = 0;
     for (int run = 0; run < stops; ++run) {
         beginExtraction();
@@ -73,15 +72,11 @@ void TstStubbornTool::fiftyStopsInARow()
         QVERIFY(QTest::qWaitFor([] { return processesOf("scriptedtool").isEmpty(); }, stopLimitMs));
         QVERIFY(childProcesses().isEmpty());
         QVERIFY2(!QApplication::activeModalWidget(), "a success message after Stop");
-        if (run == 2) {
-            QTest::qWait(100);
-            threads = threadCount();
+        QTRY_COMPARE(runnerThreadCount(), 0);
+        if (run == 2)
             descriptors = descriptorCount();
-        }
     }
-    // The worker of the last stop frees itself when the event loop gets to it.
-    QTRY_COMPARE(threadCount(), threads);
-    QTRY_COMPARE(descriptorCount(), descriptors);
+    QVERIFY(descriptorCount() <= descriptors);
 }
 
 void TstStubbornTool::stopUnderAFlood()

@@ -43,9 +43,17 @@ QStringList processNumbers()
 
 } // namespace
 
-int threadCount()
+int runnerThreadCount()
 {
-    return int(statusNumber("Threads"));
+    // The system keeps 15 characters of the class's name.
+    const QByteArray name = QByteArray("CRunCommandThread").left(15);
+    int count = 0;
+    const QStringList threads = QDir("/proc/self/task").entryList(QDir::Dirs);
+    for (const QString& thread : threads) {
+        if (contentOf("/proc/self/task/" + thread + "/comm").trimmed() == name)
+            ++count;
+    }
+    return count;
 }
 
 int descriptorCount()

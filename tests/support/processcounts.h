@@ -8,7 +8,8 @@
 
 // What a test process and its children hold at the moment, read from the system's process table.
 
-int threadCount();
+// The threads of runners; each has one while its tool runs or is being stopped.
+int runnerThreadCount();
 int descriptorCount();
 qint64 residentKilobytes();
 // Process numbers of the direct children, ended but unreaped ones included.

@@ -528,14 +528,14 @@ void TstCRunCommandThread::fiftyRunsLeaveNothingBehind()
     Run first;
     QVERIFY(first.finish());
     QVERIFY(QTest::qWaitFor([&first] { return first.runner.isFinished(); }, stopLimitMs));
-    const int threads = threadCount();
+    QCOMPARE(runnerThreadCount(), 0);
     const int descriptors = descriptorCount();
     for (int i = 0; i < 50; ++i) {
         Run run;
         QVERIFY(run.finish());
     }
-    QCOMPARE(threadCount(), threads);
-    QCOMPARE(descriptorCount(), descriptors);
+    QCOMPARE(runnerThreadCount(), 0);
+    QVERIFY(descriptorCount() <= descriptors);
 }
 
 void TstCRunCommandThread::killedProcessEndsTheRun()

@@ -7,6 +7,7 @@
 #include "testmain.h"
 
 #include <QSignalSpy>
+#include <QWindow>
 
 #include <functional>
 #include <memory>
@@ -46,6 +47,9 @@ private slots:
     void activationAnnouncesTheVisibility();
     void minimisesOnRequest_data() { windows(); }
     void minimisesOnRequest();
+
+    void dialogComesUpOverTheWindowInUse();
+    void pageInsideAWindowStaysWhereItIsPut();
 
 private:
     static void windows();
@@ -292,6 +296,39 @@ void TstImageWindow::minimisesOnRequest()
     QVERIFY(QTest::qWaitForWindowActive(window.widget.get()));
     QVERIFY(QMetaObject::invokeMethod(window.widget.get(), "slot_minWindow"));
     QVERIFY(window.widget->isMinimized());
+}
+
+void TstImageWindow::dialogComesUpOverTheWindowInUse()
+{
+    QWidget inUse;
+    inUse.setGeometry(150, 120, 500, 400);
+    inUse.show();
+    inUse.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&inUse));
+    ImageDialog dialog;
+    dialog.setFixedSize(300, 100);
+    dialog.show();
+    QCOMPARE(dialog.windowHandle()->transientParent(), inUse.windowHandle());
+    QCOMPARE(dialog.frameGeometry().center(), inUse.frameGeometry().center());
+    // Again after the window has been moved.
+    dialog.hide();
+    inUse.move(250, 200);
+    QVERIFY(QTest::qWaitForWindowActive(&inUse));
+    dialog.show();
+    QCOMPARE(dialog.frameGeometry().center(), inUse.frameGeometry().center());
+}
+
+void TstImageWindow::pageInsideAWindowStaysWhereItIsPut()
+{
+    QWidget window;
+    window.setGeometry(150, 120, 500, 400);
+    ImageDialog* const page = new ImageDialog;
+    page->setParent(&window);
+    page->move(195, 107);
+    window.show();
+    page->show();
+    QCOMPARE(page->pos(), QPoint(195, 107));
+    QVERIFY(!page->isWindow());
 }
 
 KORVEX_TEST_MAIN(TstImageWindow)
