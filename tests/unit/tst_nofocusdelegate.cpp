@@ -5,9 +5,12 @@
 #include "testcase.h"
 #include "testmain.h"
 
+#include <QHelpEvent>
 #include <QPainter>
 #include <QStandardItemModel>
 #include <QStyleFactory>
+#include <QTableWidget>
+#include <QToolTip>
 
 class TstNoFocusDelegate : public TestCase
 {
@@ -17,6 +20,7 @@ private slots:
     void initTestCase();
     void currentCellHasNoFrame();
     void selectionIsStillPainted();
+    void cellThatIsCutShowsItsWholeTextAsAToolTip();
 
 private:
     QImage painted(const QStyledItemDelegate& delegate, QStyle::State state);
@@ -55,6 +59,30 @@ void TstNoFocusDelegate::selectionIsStillPainted()
 {
     const NoFocusDelegate delegate;
     QVERIFY(painted(delegate, QStyle::State_Selected) != painted(delegate, QStyle::State_None));
+}
+
+void TstNoFocusDelegate::cellThatIsCutShowsItsWholeTextAsAToolTip()
+{
+    QTableWidget table(1, 2);
+    table.setItemDelegate(new NoFocusDelegate(&table));
+    table.setItem(0, 0, new QTableWidgetItem("a <b>long</b> name that does not fit its column"));
+    table.setItem(0, 1, new QTableWidgetItem("b"));
+    table.resize(400, 100);
+    table.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&table));
+    const auto toolTipOver = [&table](int column) {
+        QToolTip::hideText();
+        const QPoint place =
+            table.visualRect(table.model()->index(0, column)).topLeft() + QPoint(5, 5);
+        QHelpEvent event(QEvent::ToolTip, place, table.viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(table.viewport(), &event);
+        return QToolTip::isVisible() ? QToolTip::text() : QString();
+    };
+    QCOMPARE(toolTipOver(0),
+             QString("<span>a &lt;b&gt;long&lt;/b&gt; name that does not fit its column</span>"));
+    QTRY_COMPARE(toolTipOver(1), QString());
+    table.setColumnWidth(0, 800);
+    QTRY_COMPARE(toolTipOver(0), QString());
 }
 
 KORVEX_TEST_MAIN(TstNoFocusDelegate)

@@ -85,6 +85,7 @@ QTableWidget* ImagePage::createEntryTable(QPoint position, QSize size)
     table->setStyleSheet(entryTableStyle);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    table->setWordWrap(false);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setItemDelegate(new NoFocusDelegate(table));
     table->setContextMenuPolicy(Qt::CustomContextMenu);
