@@ -8,6 +8,7 @@
 #include "nofocusdelegate.h"
 #include "scheckboxheaderview.h"
 #include "sevenzipcommand.h"
+#include "tickdelegate.h"
 #include "util.h"
 
 #include <QFileIconProvider>
@@ -86,7 +87,7 @@ QTableWidget* ImagePage::createEntryTable(QPoint position, QSize size)
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setSelectionMode(QAbstractItemView::ExtendedSelection);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table->setItemDelegate(new NoFocusDelegate(table));
+    table->setItemDelegate(new TickDelegate(table));
     table->setContextMenuPolicy(Qt::CustomContextMenu);
     const int quarter = (size.width() - 2) / columnCount;
     for (int column = 0; column < columnCount; ++column)
