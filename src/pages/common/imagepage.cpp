@@ -111,6 +111,8 @@ void ImagePage::slotSelectAll(bool checked)
 void ImagePage::RefreshTable()
 {
     entryTable->setRowCount(0);
+    // No row is ticked now, which the box over them shows as well.
+    static_cast<SCheckBoxHeaderView*>(entryTable->horizontalHeader())->setChecked(false);
     if (!current)
         return;
     entryTable->setRowCount(current->children.size());
