@@ -86,6 +86,8 @@ QTableWidget* ImagePage::createEntryTable(QPoint position, QSize size)
     table->setStyleSheet(entryTableStyle);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    // In one line, a name that is too long shows that it goes on.
+    table->setWordWrap(false);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setItemDelegate(new TickDelegate(table));
     table->setContextMenuPolicy(Qt::CustomContextMenu);
