@@ -109,8 +109,9 @@ protected:
     {
         Base::showEvent(event);
         this->update();
-        // Else the first button would get the focus, unseen, and a stray Space would press it.
-        if (this->isWindow() && !this->focusWidget())
+        // Else the first button would get the focus, unseen, and a stray Space would press it; over
+        // another window, the button that opened it would keep the focus.
+        if (!this->focusWidget())
             this->setFocus();
         announceVisible(true);
     }

@@ -8,6 +8,7 @@
 #include "nofocusdelegate.h"
 #include "scheckboxheaderview.h"
 #include "sevenzipcommand.h"
+#include "tickdelegate.h"
 #include "util.h"
 
 #include <QFileIconProvider>
@@ -85,9 +86,10 @@ QTableWidget* ImagePage::createEntryTable(QPoint position, QSize size)
     table->setStyleSheet(entryTableStyle);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    // In one line, a name that is too long shows that it goes on.
     table->setWordWrap(false);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table->setItemDelegate(new NoFocusDelegate(table));
+    table->setItemDelegate(new TickDelegate(table));
     table->setContextMenuPolicy(Qt::CustomContextMenu);
     const int quarter = (size.width() - 2) / columnCount;
     for (int column = 0; column < columnCount; ++column)
@@ -111,6 +113,8 @@ void ImagePage::slotSelectAll(bool checked)
 void ImagePage::RefreshTable()
 {
     entryTable->setRowCount(0);
+    // No row is ticked now, which the box over them shows as well.
+    static_cast<SCheckBoxHeaderView*>(entryTable->horizontalHeader())->setChecked(false);
     if (!current)
         return;
     entryTable->setRowCount(current->children.size());

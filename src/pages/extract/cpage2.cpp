@@ -6,6 +6,7 @@
 #include "cimagebutton.h"
 #include "cprogressdialog.h"
 #include "cruncommandthread.h"
+#include "tickdelegate.h"
 #include "util.h"
 
 #include <QDebug>
@@ -17,9 +18,6 @@
 
 namespace
 {
-
-// A click this near to the table's left edge is on the check box, which the table toggles itself.
-constexpr int checkBoxWidth = 16;
 
 QFont labelFont(const QWidget* label, int pixels, int weight)
 {
@@ -176,7 +174,8 @@ void CPage2::OnListViewClicked(QTableWidgetItem* cell)
     const int row = cell->row();
     if (row < 0 || row >= entryTable->rowCount())
         return;
-    if (entryTable->mapFromGlobal(QCursor::pos()).x() > checkBoxWidth) {
+    // The table toggles itself what is clicked on the tick.
+    if (entryTable->mapFromGlobal(QCursor::pos()).x() > TickDelegate::lastPixel) {
         QTableWidgetItem* const tick = entryTable->item(row, 0);
         if (tick->checkState() == Qt::Checked)
             tick->setCheckState(Qt::Unchecked);

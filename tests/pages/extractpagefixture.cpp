@@ -1,0 +1,264 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "extractpagefixture.h"
+
+#include "cimagebutton.h"
+#include "cprogressdialog.h"
+#include "modaldriver.h"
+#include "testfiles.h"
+#include "usermouse.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QProgressBar>
+#include <QtTest>
+
+namespace
+{
+
+QString entryLine(const QString& attributes, const QString& size, const QString& path)
+{
+    return QString("2019-03-19 13:42:43 %1 %2 %2  %3")
+        .arg(attributes, size.rightJustified(12), path);
+}
+
+} // namespace
+
+ExtractPageFixture::ExtractPageFixture()
+    : tool(toolPath())
+    , page(new CPage2(&window))
+    , isoPath(path("image.iso"))
+{
+    window.resize(860, 580);
+    page->setParent(&window);
+    page->InitializeUI();
+    page->move(195, 107);
+    page->SetMoveable(false);
+    page->show();
+    window.show();
+    if (!QTest::qWaitForWindowExposed(&window))
+        qFatal("The window did not show");
+}
+
+ExtractPageFixture::~ExtractPageFixture()
+{
+    // A mouse that is left on a button would not enter the next test's button in the same place.
+    UserMouse::moveAway(&window);
+}
+
+// From outside: the dialog that the last press opened has taken the mouse from the button.
+void ExtractPageFixture::press(const QString& name)
+{
+    UserMouse::moveAway(&window);
+    UserMouse::click(button(name));
+}
+
+QString ExtractPageFixture::fileLine(const QString& path, qint64 bytes)
+{
+    return entryLine(".....", QString::number(bytes), path);
+}
+
+QString ExtractPageFixture::folderLine(const QString& path)
+{
+    return entryLine("D....", QString(), path);
+}
+
+QString ExtractPageFixture::separatorLine()
+{
+    return "------------------- ----- ------------ ------------  ------------------------";
+}
+
+QStringList ExtractPageFixture::usualEntries()
+{
+    return {folderLine("boot"),
+            folderLine("boot/grub"),
+            fileLine("boot/grub/font.pf2", 2048),
+            fileLine("boot/grub/grub.cfg"),
+            fileLine("boot/kernel", 1536),
+            fileLine("readme.txt", 6),
+            folderLine("docs"),
+            fileLine("docs/manual.pdf", 3000000),
+            fileLine("autorun.inf", 0)};
+}
+
+QString ExtractPageFixture::toolPath()
+{
+    return QCoreApplication::applicationDirPath() + "/7z/7z";
+}
+
+void ExtractPageFixture::setListing(const QStringList& entryLines) const
+{
+    const QStringList lines =
+        QStringList{"Listing archive: image.iso", "",
+                    "   Date      Time    Attr         Size   Compressed  Name", separatorLine()} +
+        entryLines +
+        QStringList{separatorLine(), entryLine("     ", "3003596", "6 files, 3 folders")};
+    const QString listing = path("listing.txt");
+    writeFile(listing, lines.join('\n').toUtf8() + '\n');
+    tool.setScript({"file 4096 " + listing});
+}
+
+void ExtractPageFixture::startLoading(const QString& fileName)
+{
+    isoPath = path(fileName);
+    if (!QFile::exists(isoPath))
+        writeFile(isoPath, "image");
+    ModalDriver driver;
+    driver.typePath(isoPath);
+    press("loadiso");
+}
+
+bool ExtractPageFixture::waitUntilLoaded() const
+{
+    return QTest::qWaitFor([this] { return button("loadiso")->isEnabled(); }, 10000);
+}
+
+bool ExtractPageFixture::load(const QStringList& entryLines)
+{
+    setListing(entryLines);
+    startLoading();
+    return waitUntilLoaded();
+}
+
+void ExtractPageFixture::startExtractingTo(const QString& outputDir)
+{
+    ModalDriver driver;
+    driver.typePath(outputDir);
+    page->OnExtract();
+}
+
+bool ExtractPageFixture::extractTo(const QString& outputDir,
+                                   const std::function<void()>& whileRunning,
+                                   const QString& lastButton)
+{
+    startExtractingTo(outputDir);
+    if (whileRunning)
+        whileRunning();
+    ModalDriver driver(15000);
+    // The progress dialog may or may not be met on the way, depending on how fast the tool is.
+    const std::function<void(QWidget*)> answer = [&](QWidget* dialog) {
+        if (dialog == progress())
+            driver.run("CommDialog", answer);
+        else
+            UserMouse::click(dialog->findChild<QWidget*>(lastButton));
+    };
+    driver.run("CommDialog", answer);
+    const bool done = QTest::qWaitFor([&driver] { return driver.done(); }, 15000) &&
+                      QTest::qWaitFor([] { return !QApplication::activeModalWidget(); });
+    successText = driver.texts().value(driver.texts().size() - 1);
+    return done;
+}
+
+void ExtractPageFixture::tick(const QStringList& names) const
+{
+    for (int row = 0; row < table()->rowCount(); ++row) {
+        const bool on = names.contains(table()->item(row, 0)->text());
+        table()->item(row, 0)->setCheckState(on ? Qt::Checked : Qt::Unchecked);
+    }
+}
+
+QStringList ExtractPageFixture::ticked() const
+{
+    QStringList names;
+    for (int row = 0; row < table()->rowCount(); ++row) {
+        if (table()->item(row, 0)->checkState() == Qt::Checked)
+            names.append(table()->item(row, 0)->text());
+    }
+    return names;
+}
+
+int ExtractPageFixture::rowOf(const QString& name) const
+{
+    return shownNames().indexOf(name);
+}
+
+QStringList ExtractPageFixture::shownNames() const
+{
+    QStringList names;
+    for (int row = 0; row < table()->rowCount(); ++row)
+        names.append(table()->item(row, 0)->text());
+    return names;
+}
+
+void ExtractPageFixture::enter(const QString& path)
+{
+    const QStringList names = path.split('/');
+    for (const QString& name : names)
+        doubleClickRow(rowOf(name));
+}
+
+QPoint ExtractPageFixture::rowPoint(int row, int x) const
+{
+    const int y = table()->visualItemRect(table()->item(row, 0)).center().y();
+    return {x, table()->viewport()->mapTo(table(), QPoint(0, y)).y()};
+}
+
+void ExtractPageFixture::clickRow(int row, int x) const
+{
+    UserMouse::press(table(), rowPoint(row, x));
+    UserMouse::release(table(), rowPoint(row, x));
+}
+
+void ExtractPageFixture::doubleClickRow(int row) const
+{
+    const QPoint point = rowPoint(row, 80);
+    UserMouse::move(table(), point);
+    QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                       table()->mapTo(&window, point));
+    QCoreApplication::processEvents();
+}
+
+void ExtractPageFixture::clickNode(QTreeWidgetItem* node) const
+{
+    const QPoint inViewport = tree()->visualItemRect(node).center();
+    const QPoint point = tree()->viewport()->mapTo(tree(), inViewport);
+    UserMouse::press(tree(), point);
+    UserMouse::release(tree(), point);
+    QCoreApplication::processEvents();
+}
+
+QTableWidget* ExtractPageFixture::table() const
+{
+    return page->findChild<QTableWidget*>("list");
+}
+
+QTreeWidget* ExtractPageFixture::tree() const
+{
+    return page->findChild<QTreeWidget*>("tree");
+}
+
+QTreeWidgetItem* ExtractPageFixture::topNode() const
+{
+    return tree()->topLevelItem(0);
+}
+
+CImageButton* ExtractPageFixture::button(const QString& name) const
+{
+    return page->findChild<CImageButton*>(name);
+}
+
+CProgressDialog* ExtractPageFixture::progress() const
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget* widget : widgets) {
+        if (auto* dialog = qobject_cast<CProgressDialog*>(widget))
+            return dialog;
+    }
+    return nullptr;
+}
+
+QString ExtractPageFixture::progressText() const
+{
+    return progress()->findChild<QLabel*>("label")->text();
+}
+
+int ExtractPageFixture::progressValue() const
+{
+    return progress()->findChild<QProgressBar*>("progressBar")->value();
+}
+
+QString ExtractPageFixture::path(const QString& relative) const
+{
+    return folder.filePath(relative);
+}
