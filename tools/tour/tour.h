@@ -1,0 +1,23 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "album.h"
+#include "user.h"
+
+// What a tour works with. One function per part of the program, each in a file of its own, called
+// one after another; a new page adds one. All of them run beside the user-interface thread and
+// throw TourFailure when a step cannot be done or comes out wrong.
+struct Tour
+{
+    const User& user;
+    Album& album;
+    // The user's home folder: made for the tour, removed after it.
+    QString home;
+};
+
+// The home screen, the application menu, the about box. Leaves the home screen.
+void tourHome(Tour& tour);
+// The Extract page with a real image. Leaves the home screen.
+void tourExtract(Tour& tour);

@@ -1,0 +1,178 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "sampleimage.h"
+#include "sevenzipcommand.h"
+#include "slowedtool.h"
+#include "tour.h"
+#include "tourfailure.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QProgressBar>
+
+namespace
+{
+
+const char* const page = "CPage2";
+// The folder of the image that is entered, what is ticked in it and what that brings along.
+const char* const folder = "Videos";
+const char* const tickedFolder = "Summer";
+const char* const tickedFile = "京都.mp4";
+// From here on there is something to see on the progress bar.
+constexpr int percentToShow = 25;
+constexpr int mostSteps = 100;
+
+// In whatever order.
+void requireSame(QStringList shown, QStringList expected)
+{
+    shown.sort();
+    expected.sort();
+    require(shown == expected,
+            "Shown is " + shown.join(", ") + " instead of " + expected.join(", "));
+}
+
+void openPage(Tour& tour)
+{
+    tour.user.click("MainWindow", "extract");
+    tour.user.waitForWindow(page);
+    tour.album.add("extract-empty", tour.user.photograph(), "Extract clicked on the home screen",
+                   {"texts: " + tour.user.texts(page).join(" | ")});
+}
+
+void extractWithoutTick(Tour& tour)
+{
+    tour.user.click(page, "extract");
+    tour.user.waitForWindow("GerneralDialog");
+    const QStringList texts = tour.user.texts("GerneralDialog");
+    require(texts == QStringList("Please select the files or folders you want to extract"),
+            "The message says " + texts.join(" | "));
+    tour.album.add("extract-nothing-ticked", tour.user.photograph(),
+                   "Extract clicked with nothing ticked", {"message: " + texts.join(" | ")});
+    tour.user.click("GerneralDialog", "btnok");
+    tour.user.waitUntilGone("GerneralDialog");
+}
+
+void loadImage(Tour& tour, const SampleImage& sample)
+{
+    tour.user.click(page, "loadiso");
+    tour.user.typePath(sample.path);
+    tour.album.add("extract-open-file", tour.user.photograph(),
+                   "Load ISO clicked, the image's path typed", {"path: " + sample.path});
+    tour.user.acceptFileDialog();
+    tour.user.waitFor("the image's contents", [] {
+        const QWidget* const button = visibleWidget(page, "loadiso");
+        return button && button->isEnabled();
+    });
+    const QStringList rows = tour.user.rows();
+    const QStringList originals =
+        QDir(sample.source).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    requireSame(rows, originals);
+    tour.album.add("extract-loaded", tour.user.photograph(), "The image was listed",
+                   {"entries, as in the image's folder: " + rows.join(", ")});
+}
+
+void enterAndTick(Tour& tour, const SampleImage& sample)
+{
+    tour.user.doubleClickRow(folder);
+    const QStringList originals =
+        QDir(sample.source + '/' + folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    const QStringList rows = tour.user.rows();
+    requireSame(rows, originals);
+    tour.album.add("extract-folder", tour.user.photograph(),
+                   QString("Folder \"%1\" entered by a double click").arg(folder),
+                   {"entries, as in the original folder: " + rows.join(", ")});
+
+    tour.user.clickBoxOfRow(tickedFolder);
+    tour.user.clickRow(tickedFile);
+    const QStringList ticked = tour.user.tickedRows();
+    requireSame(ticked, {tickedFolder, tickedFile});
+    tour.album.add("extract-ticked", tour.user.photograph(),
+                   "A folder ticked at its box, a file by a click on its row",
+                   {"ticked: " + ticked.join(", ")});
+}
+
+int shownPercent()
+{
+    const auto* bar = qobject_cast<QProgressBar*>(visibleWidget("CProgressDialog", "progressBar"));
+    return bar ? bar->value() : -1;
+}
+
+void photographProgress(Tour& tour, SlowedTool& archiver)
+{
+    archiver.waitForPause();
+    tour.user.waitForWindow("CProgressDialog");
+    for (int step = 0; tour.user.see(shownPercent) < percentToShow; ++step) {
+        require(step < mostSteps, "The progress bar does not advance.");
+        require(tour.user.see(shownPercent) >= 0, "The progress dialog has gone too early.");
+        archiver.step();
+    }
+    tour.album.add("extract-progress", tour.user.photograph(),
+                   "During the extraction, with the archiver paused for the picture",
+                   {QString("progress: %1%").arg(tour.user.see(shownPercent)),
+                    "text: " + tour.user.texts("CProgressDialog").join(" | ")});
+}
+
+void extract(Tour& tour, const QString& destination)
+{
+    tour.user.click(page, "extract");
+    tour.user.typePath(destination);
+    tour.album.add("extract-choose-folder", tour.user.photograph(),
+                   "Extract clicked, the folder's path typed", {"path: " + destination});
+    {
+        // A fast machine is done before the user sees anything.
+        const QString program = QFileInfo(sevenZipProgram()).canonicalFilePath();
+        SlowedTool archiver(QFileInfo(program).fileName());
+        tour.user.acceptFileDialog();
+        photographProgress(tour, archiver);
+    }
+    tour.user.waitUntilGone("CProgressDialog");
+    tour.user.waitFor("the success message",
+                      [] { return visibleWidget("CommDialog", "btnok") != nullptr; });
+    const QStringList texts = tour.user.texts("CommDialog");
+    require(texts == QStringList("Extract files successfully."),
+            "The message says " + texts.join(" | "));
+    tour.album.add("extract-success", tour.user.photograph(), "The extraction has ended",
+                   {"message: " + texts.join(" | ")});
+    tour.user.click("CommDialog", "btnok");
+    tour.user.waitUntilGone("CommDialog");
+}
+
+// Everything that was ticked has arrived, nothing else has, and every byte is as it was.
+void compare(Tour& tour, const SampleImage& sample, const QString& destination)
+{
+    QMap<QString, QString> expected = hashesOf(sample.source + '/' + folder);
+    for (const QString& path : expected.keys()) {
+        if (path != tickedFile && !path.startsWith(QString(tickedFolder) + '/'))
+            expected.remove(path);
+    }
+    const QMap<QString, QString> extracted = hashesOf(destination);
+    QStringList outcome;
+    for (auto file = extracted.begin(); file != extracted.end(); ++file)
+        outcome.append(QString("%1  %2").arg(file.value(), file.key()));
+    for (auto file = expected.begin(); file != expected.end(); ++file)
+        require(extracted.value(file.key()) == file.value(),
+                "Not extracted as it was: " + file.key());
+    require(extracted.size() == expected.size(),
+            "More was extracted than was ticked:\n" + outcome.join('\n'));
+    outcome.append(QString("%1 files, all equal to their originals by SHA-256, no others")
+                       .arg(extracted.size()));
+    tour.album.note("Extracted files compared with the originals", outcome);
+}
+
+} // namespace
+
+void tourExtract(Tour& tour)
+{
+    const SampleImage sample = makeSampleImage(tour.home);
+    const QString destination = tour.home + "/Extracted";
+    require(QDir().mkpath(destination), "The folder cannot be made: " + destination);
+    openPage(tour);
+    extractWithoutTick(tour);
+    loadImage(tour, sample);
+    enterAndTick(tour, sample);
+    extract(tour, destination);
+    compare(tour, sample, destination);
+    tour.user.click(page, "back");
+    tour.user.waitUntilGone(page);
+}
