@@ -9,9 +9,13 @@
 
 // The main function of a test executable: an application whose data folder is a temporary one, so
 // that no test sees what another left or what the user has.
-#define KORVEX_TEST_MAIN(TestClass)                                                                \
+#define KORVEX_TEST_MAIN(TestClass) KORVEX_TEST_MAIN_AFTER((void)0, TestClass)
+
+// The same with something to do before there is an application, as the program itself has.
+#define KORVEX_TEST_MAIN_AFTER(preparation, TestClass)                                             \
     int main(int argc, char* argv[])                                                               \
     {                                                                                              \
+        preparation;                                                                               \
         QTemporaryDir dataFolder;                                                                  \
         qputenv("XDG_DATA_HOME", QFile::encodeName(dataFolder.path()));                            \
         QApplication app(argc, argv);                                                              \
