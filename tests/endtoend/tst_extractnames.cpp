@@ -198,11 +198,5 @@ void TstExtractNames::folderThatIsCalledLikeItsParentIsLost()
     QVERIFY(hashesBelow(output).isEmpty());
 }
 
-// The program's own preparation of the process, before there is an application.
-int main(int argc, char* argv[])
-{
-    prepareProcess();
-    return runTests<TstExtractNames>(argc, argv);
-}
-
+KORVEX_TEST_MAIN_AFTER(prepareProcess(), TstExtractNames)
 #include "tst_extractnames.moc"

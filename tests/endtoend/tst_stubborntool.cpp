@@ -21,6 +21,12 @@ QString toolPath()
     return QCoreApplication::applicationDirPath() + "/7z/7z";
 }
 
+// The tool, its child and whatever has not become a tool yet.
+bool everythingIsGone()
+{
+    return childProcesses().isEmpty() && processesOf("scriptedtool").isEmpty();
+}
+
 } // namespace
 
 // Stop with a tool that ignores the polite request and has a child that would hold its pipes.
@@ -69,8 +75,7 @@ void TstStubbornTool::fiftyStopsInARow()
             QTRY_COMPARE(text->text(), QString("Extracting files: big.bin"));
         session->pressStop();
         QVERIFY(session->isUsable());
-        QVERIFY(QTest::qWaitFor([] { return processesOf("scriptedtool").isEmpty(); }, stopLimitMs));
-        QVERIFY(childProcesses().isEmpty());
+        QVERIFY(QTest::qWaitFor(everythingIsGone, stopLimitMs));
         QVERIFY2(!QApplication::activeModalWidget(), "a success message after Stop");
         QTRY_COMPARE(runnerThreadCount(), 0);
         if (run == 2)
@@ -86,7 +91,7 @@ void TstStubbornTool::stopUnderAFlood()
     QTest::qWait(500);
     session->pressStop();
     QVERIFY(session->isUsable());
-    QVERIFY(QTest::qWaitFor([] { return childProcesses().isEmpty(); }, stopLimitMs));
+    QVERIFY(QTest::qWaitFor(everythingIsGone, stopLimitMs));
 }
 
 KORVEX_TEST_MAIN(TstStubbornTool)

@@ -47,10 +47,8 @@ ExtractPageFixture::~ExtractPageFixture()
     UserMouse::moveAway(&window);
 }
 
-// From outside: the dialog that the last press opened has taken the mouse from the button.
-void ExtractPageFixture::press(const QString& name)
+void ExtractPageFixture::press(const QString& name) const
 {
-    UserMouse::moveAway(&window);
     UserMouse::click(button(name));
 }
 
@@ -106,7 +104,7 @@ void ExtractPageFixture::startLoading(const QString& fileName)
         writeFile(isoPath, "image");
     ModalDriver driver;
     driver.typePath(isoPath);
-    press("loadiso");
+    page->OnLoadISO();
 }
 
 bool ExtractPageFixture::waitUntilLoaded() const

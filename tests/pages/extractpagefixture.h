@@ -37,8 +37,8 @@ public:
     // What the archiver prints from now on: a whole listing of these entries.
     void setListing(const QStringList& entryLines) const;
     // Clicks one of the page's buttons.
-    void press(const QString& name);
-    // Presses Load ISO and chooses this image, which is made if it is not there.
+    void press(const QString& name) const;
+    // Starts a load and chooses this image, which is made if it is not there, in the dialog.
     void startLoading(const QString& fileName = "image.iso");
     // True once the three buttons may be pressed again.
     bool waitUntilLoaded() const;

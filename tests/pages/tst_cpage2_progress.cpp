@@ -3,6 +3,7 @@
 
 #include "cprogressdialog.h"
 #include "extractpagefixture.h"
+#include "modaldriver.h"
 #include "processcounts.h"
 #include "startup.h"
 #include "testcase.h"
@@ -11,6 +12,7 @@
 #include "usermouse.h"
 
 #include <QApplication>
+#include <QLoggingCategory>
 
 // While the archiver extracts: what its lines do to the progress dialog, and Stop.
 class TstCPage2Progress : public TestCase
@@ -31,6 +33,8 @@ private slots:
     void stopEndsTheArchiverWithoutAMessage();
     void escapeInTheProgressDialogIsStop();
     void linesAfterStopAreIgnored();
+    void linesOnTheirWayAreIgnoredAfterStop();
+    void endOnItsWayIsIgnoredAfterStop();
     void extractionAfterStopStartsAnew();
     void stopWithoutAnExtractionIsHarmless();
     void pageMayGoWhileTheArchiverRuns();
@@ -205,6 +209,35 @@ void TstCPage2Progress::linesAfterStopAreIgnored()
     QVERIFY(QTest::qWaitFor([] { return processesOf("scriptedtool").isEmpty(); }));
     QCOMPARE(fixture->progressValue(), value);
     QVERIFY(!fixture->progress()->isVisible());
+    QVERIFY(fixture->page->isEnabled());
+}
+
+// The lines wait to be delivered when Stop comes.
+void TstCPage2Progress::linesOnTheirWayAreIgnoredAfterStop()
+{
+    QLoggingCategory::setFilterRules("korvex.tooloutput.debug=true");
+    fixture->tool.setScript({"lines 50  45% 1 - f", "sleep 60000"});
+    fixture->tick({"readme.txt"});
+    fixture->startExtractingTo(outputDir);
+    QThread::msleep(1000);
+    QVERIFY(QMetaObject::invokeMethod(fixture->progress(), "OnBtnCancel"));
+    QTest::qWait(100);
+    QLoggingCategory::setFilterRules({});
+    QVERIFY(debugLines().join(' ').contains("CPage2::OnExtractOutput")); // they did come
+    QCOMPARE(fixture->progressValue(), 0);
+    QCOMPARE(fixture->progressText(), QString("Extracting files..."));
+}
+
+void TstCPage2Progress::endOnItsWayIsIgnoredAfterStop()
+{
+    fixture->tool.setScript({});
+    fixture->tick({"readme.txt"});
+    fixture->startExtractingTo(outputDir);
+    QThread::msleep(1000);
+    const ModalDriver driver; // fails for any message
+    QVERIFY(QMetaObject::invokeMethod(fixture->progress(), "OnBtnCancel"));
+    QTest::qWait(300);
+    QCOMPARE(fixture->tool.calls().size(), 2);
     QVERIFY(fixture->page->isEnabled());
 }
 

@@ -34,6 +34,7 @@ private slots:
     void tableHasFourColumnsOfTheseWidths();
     void sizeHeaderKeepsItsLeadingBlank();
     void tableSelectsWholeRowsAndIsNotEdited();
+    void longNamesStayInOneLine();
     void treeAllowsOneSelection();
     void viewsAreEmptyBeforeALoad();
     void languageChangeReachesEveryText();
@@ -166,6 +167,13 @@ void TstCPage2Views::tableSelectsWholeRowsAndIsNotEdited()
     QVERIFY(table->verticalHeader()->isHidden());
     QCOMPARE(table->font().pixelSize(), 14);
     QCOMPARE(table->font().weight(), int(QFont::Normal));
+}
+
+// Two lines would show the first one alone, like another name.
+void TstCPage2Views::longNamesStayInOneLine()
+{
+    QVERIFY(!fixture->table()->wordWrap());
+    QCOMPARE(fixture->table()->textElideMode(), Qt::ElideRight);
 }
 
 void TstCPage2Views::treeAllowsOneSelection()

@@ -8,8 +8,6 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <unistd.h>
-
 namespace
 {
 
@@ -29,7 +27,7 @@ qint64 statusNumber(const QByteArray& field)
     return -1;
 }
 
-// The fields of /proc/<pid>/stat behind the executable's name: state, parent, group, session, …
+// The fields of /proc/<pid>/stat behind the executable's name: state, parent, …
 QList<QByteArray> statFields(const QString& pid)
 {
     const QByteArray stat = contentOf("/proc/" + pid + "/stat");
@@ -81,12 +79,14 @@ QList<qint64> childProcesses()
 
 QList<qint64> processesOf(const QString& executableName)
 {
+    // Every test process has a data folder of its own and hands it down.
+    const QByteArray mark = "XDG_DATA_HOME=" + qgetenv("XDG_DATA_HOME");
     QList<qint64> found;
-    const QByteArray session = QByteArray::number(::getsid(0));
-    for (const QString& pid : processNumbers()) {
+    const QStringList pids = processNumbers();
+    for (const QString& pid : pids) {
         const QString executable = QFile::symLinkTarget("/proc/" + pid + "/exe");
         if (QFileInfo(executable).fileName() == executableName &&
-            statFields(pid).value(3) == session)
+            contentOf("/proc/" + pid + "/environ").split('\0').contains(mark))
             found.append(pid.toLongLong());
     }
     return found;

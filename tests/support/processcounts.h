@@ -15,5 +15,5 @@ qint64 residentKilobytes();
 // Process numbers of the direct children, ended but unreaped ones included.
 QList<qint64> childProcesses();
 // Process numbers of all running processes whose executable file has this name and which this test
-// process has started, directly or not. (Their group is a child of its session.)
+// process has started, directly or not, also of those whose parent has ended.
 QList<qint64> processesOf(const QString& executableName);

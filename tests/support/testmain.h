@@ -21,8 +21,12 @@ int runTests(int argc, char* argv[])
 }
 
 // The main function of a test executable.
-#define KORVEX_TEST_MAIN(TestClass)                                                                \
+#define KORVEX_TEST_MAIN(TestClass) KORVEX_TEST_MAIN_AFTER((void)0, TestClass)
+
+// The same with something to do before there is an application, as the program itself has.
+#define KORVEX_TEST_MAIN_AFTER(preparation, TestClass)                                             \
     int main(int argc, char* argv[])                                                               \
     {                                                                                              \
+        preparation;                                                                               \
         return runTests<TestClass>(argc, argv);                                                    \
     }

@@ -40,6 +40,9 @@ void UserMouse::release(QWidget* widget, QPoint position)
 void UserMouse::click(QWidget* widget)
 {
     const QPoint centre = widget->rect().center();
+    // A mouse that rests on the widget while its window opens or another one closes does not enter
+    // it: that takes a movement.
+    moveAway(widget);
     press(widget, centre);
     release(widget, centre);
 }

@@ -16,7 +16,7 @@ namespace UserMouse
 void move(QWidget* widget, QPoint position);
 void press(QWidget* widget, QPoint position);
 void release(QWidget* widget, QPoint position);
-// Moves to the widget's middle, presses and releases.
+// Comes from outside to the widget's middle, presses and releases.
 void click(QWidget* widget);
 // Moves out of the widget, to the outer corner of its window.
 void moveAway(QWidget* widget);

@@ -1,0 +1,216 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "cimagebutton.h"
+#include "cprogressdialog.h"
+#include "extractpagefixture.h"
+#include "mainwindow.h"
+#include "modaldriver.h"
+#include "startup.h"
+#include "testcase.h"
+#include "testmain.h"
+#include "usermouse.h"
+#include "util.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLabel>
+#include <QSet>
+
+// Pictures of the home screen and of the Extract page in each of its states, saved for looking at.
+// Run once for each screen density.
+class TstExtractPictures : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanup();
+    void homeScreen();
+    void homeScreenWithAButtonUnderTheMouse();
+    void emptyPageOnTheHomeScreen();
+    void loadedPage();
+    void enteredFolder();
+    void tickedRows();
+    void listingThatRuns();
+    void progress();
+    void success();
+    void nothingTicked();
+    void refusal();
+
+private:
+    void save(QWidget* widget, const QString& name) const;
+    void loadMany(ExtractPageFixture& fixture) const;
+};
+
+void TstExtractPictures::initTestCase()
+{
+    setApplicationLook();
+}
+
+void TstExtractPictures::cleanup()
+{
+    while (QApplication::overrideCursor())
+        QApplication::restoreOverrideCursor();
+    TestCase::cleanup();
+}
+
+// What is shown has its size in device pixels, is no plain area, and cuts no text off.
+void TstExtractPictures::save(QWidget* widget, const QString& name) const
+{
+    QCoreApplication::processEvents();
+    const qreal density = qApp->devicePixelRatio();
+    const QImage picture = widget->grab().toImage();
+    QCOMPARE(picture.size(), widget->size() * density);
+    QSet<QRgb> colours;
+    for (int y = 0; y < picture.height(); y += 3) {
+        for (int x = 0; x < picture.width(); x += 3)
+            colours.insert(picture.pixel(x, y));
+    }
+    QVERIFY2(colours.size() > 20, qPrintable(QString::number(colours.size())));
+    for (const CImageButton* const button : widget->findChildren<CImageButton*>()) {
+        const QRect caption = button->captionRect();
+        // No caption is up to a pixel wide.
+        QVERIFY2(caption.width() <= 1 || button->isHidden() || button->rect().contains(caption),
+                 qPrintable(button->objectName()));
+    }
+    for (const QLabel* const label : widget->findChildren<QLabel*>()) {
+        if (label->isVisible() && !label->wordWrap())
+            QVERIFY2(label->fontMetrics().horizontalAdvance(label->text()) <= label->width(),
+                     qPrintable(label->text()));
+    }
+    const QString folder = QString(KORVEX_SCREENSHOTS "/%1x").arg(qRound(density));
+    QVERIFY(QDir().mkpath(folder));
+    QVERIFY(picture.save(folder + '/' + name + ".png"));
+}
+
+void TstExtractPictures::loadMany(ExtractPageFixture& fixture) const
+{
+    QStringList entries = ExtractPageFixture::usualEntries();
+    entries += {ExtractPageFixture::folderLine(QString::fromUtf8("文書 と 画像")),
+                ExtractPageFixture::folderLine("a folder with a rather long name"),
+                ExtractPageFixture::folderLine("a folder with a rather long name/one below it"),
+                ExtractPageFixture::fileLine("a file with a rather long name.tar.gz", 734003200)};
+    for (int i = 1; i < 20; ++i)
+        entries.append(ExtractPageFixture::fileLine(QString("picture %1.png").arg(i), 12345 * i));
+    QVERIFY(fixture.load(entries));
+    UserMouse::moveAway(&fixture.window);
+}
+
+void TstExtractPictures::homeScreen()
+{
+    MainWindow window(nullptr);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    UserMouse::moveAway(&window);
+    save(&window, "home");
+}
+
+void TstExtractPictures::homeScreenWithAButtonUnderTheMouse()
+{
+    MainWindow window(nullptr);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    UserMouse::moveAway(&window);
+    auto* const edit = window.findChild<CImageButton*>("edit");
+    const QImage before = edit->grab().toImage();
+    UserMouse::move(edit, edit->rect().center());
+    // The platform of the tests mistakes where windows are on a dense screen.
+    QEvent entered(QEvent::Enter);
+    QCoreApplication::sendEvent(edit, &entered);
+    QVERIFY(edit->grab().toImage() != before);
+    save(&window, "home-hover");
+}
+
+void TstExtractPictures::emptyPageOnTheHomeScreen()
+{
+    MainWindow window(nullptr);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    UserMouse::moveAway(&window);
+    window.onExtract();
+    save(&window, "extract-empty");
+}
+
+void TstExtractPictures::loadedPage()
+{
+    ExtractPageFixture fixture;
+    loadMany(fixture);
+    save(fixture.page, "extract-loaded");
+}
+
+void TstExtractPictures::enteredFolder()
+{
+    ExtractPageFixture fixture;
+    loadMany(fixture);
+    fixture.enter("boot");
+    UserMouse::moveAway(&fixture.window);
+    save(fixture.page, "extract-folder");
+}
+
+void TstExtractPictures::tickedRows()
+{
+    ExtractPageFixture fixture;
+    loadMany(fixture);
+    fixture.clickRow(fixture.rowOf("docs"), 80);
+    fixture.clickRow(fixture.rowOf("readme.txt"), 80);
+    UserMouse::moveAway(&fixture.window);
+    save(fixture.page, "extract-ticked");
+}
+
+void TstExtractPictures::listingThatRuns()
+{
+    ExtractPageFixture fixture;
+    fixture.tool.setScript({"sleep 60000"});
+    fixture.startLoading();
+    UserMouse::moveAway(&fixture.window);
+    save(fixture.page, "extract-listing");
+}
+
+void TstExtractPictures::progress()
+{
+    ExtractPageFixture fixture;
+    loadMany(fixture);
+    fixture.tool.setScript({"sleep 60000"});
+    fixture.tick({"docs"});
+    fixture.startExtractingTo(fixture.folder.path());
+    fixture.page->OnExtractOutput(" 45% 12 - docs/manual.pdf");
+    save(fixture.progress(), "extract-progress");
+    save(fixture.page, "extract-disabled");
+}
+
+void TstExtractPictures::success()
+{
+    ModalDriver driver;
+    driver.run("CommDialog", [this](QWidget* dialog) {
+        save(dialog, "extract-success");
+        dialog->close();
+    });
+    Util::ShowOpen(CPage2::tr("Extract files successfully."), QDir::tempPath());
+    QVERIFY(driver.done());
+}
+
+void TstExtractPictures::nothingTicked()
+{
+    ExtractPageFixture fixture;
+    ModalDriver driver;
+    driver.run("GerneralDialog", [this](QWidget* dialog) {
+        save(dialog, "extract-nothing-ticked");
+        dialog->close();
+    });
+    fixture.page->OnExtract();
+    QVERIFY(driver.done());
+}
+
+void TstExtractPictures::refusal()
+{
+    ModalDriver driver;
+    driver.run("CommDialog", [this](QWidget* dialog) {
+        save(dialog, "refusal");
+        dialog->close();
+    });
+    QVERIFY(refuseToRunFrom("/Volumes/x"));
+}
+
+KORVEX_TEST_MAIN_AFTER(prepareProcess(), TstExtractPictures)
+#include "tst_extractpictures.moc"
