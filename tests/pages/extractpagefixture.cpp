@@ -116,7 +116,9 @@ bool ExtractPageFixture::load(const QStringList& entryLines)
 {
     setListing(entryLines);
     startLoading();
-    return waitUntilLoaded();
+    const bool loaded = waitUntilLoaded();
+    QCoreApplication::processEvents(); // the views lay their rows out a turn later
+    return loaded;
 }
 
 void ExtractPageFixture::startExtractingTo(const QString& outputDir)
