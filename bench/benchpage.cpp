@@ -65,6 +65,12 @@ double BenchPage::extractAll(const QString& destination)
     return extractionTime;
 }
 
+void BenchPage::OnExtractFinished()
+{
+    lastArchiverTime = double(extraction.nsecsElapsed()) / 1e6;
+    CPage2::OnExtractFinished();
+}
+
 bool BenchPage::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::Show)

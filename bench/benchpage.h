@@ -24,12 +24,15 @@ public:
     // Extracts everything in the current folder to an existing folder. Milliseconds from the start
     // of the archiver to the success message.
     double extractAll(const QString& destination);
+    // Of the last extraction: until the page knew that the archiver has ended. Milliseconds.
+    double archiverTime() const { return lastArchiverTime; }
     // Shows the first folder of the image in the table.
     void enterFirstFolder();
     int rows() const;
 
 public slots:
     void OnUnzipFinished() override;
+    void OnExtractFinished() override;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -43,5 +46,6 @@ private:
     double lastViewTime = 0;
     QString outputFolder;
     QElapsedTimer extraction;
+    double lastArchiverTime = 0;
     double extractionTime = 0;
 };
