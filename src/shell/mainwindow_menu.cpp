@@ -53,7 +53,9 @@ QMenu* MainWindow::createLanguageMenu()
 
 void MainWindow::popUpMenu()
 {
-    applicationMenu->popup(menuButton->mapToGlobal(menuButton->rect().bottomLeft()));
+    // Below the button, its right edges in line, so that it stays over the window.
+    const QPoint corner = menuButton->mapToGlobal(menuButton->rect().bottomRight());
+    applicationMenu->popup(corner - QPoint(applicationMenu->sizeHint().width(), 0));
 }
 
 void MainWindow::switchLanguage(qint32 number)

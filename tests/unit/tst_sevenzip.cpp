@@ -8,6 +8,8 @@
 #include "testcase.h"
 #include "testmain.h"
 
+#include <QSet>
+
 class TstSevenZip : public TestCase
 {
     Q_OBJECT
@@ -25,6 +27,7 @@ private slots:
     void backspaces();
     void statesOfALine();
     void redrawnProgressCutAnywhere();
+    void capturedProgressCutAtEveryByte();
     void entryTextHoldsNoControlCharacter();
     void pieces_data();
     void pieces();
@@ -183,6 +186,27 @@ void TstSevenZip::redrawnProgressCutAnywhere()
         if (cut < text.size() - QString(" 77% 1 - f2").size())
             QCOMPARE(readSevenZipProgress(text.mid(cut))->percent, 77);
     }
+}
+
+void TstSevenZip::capturedProgressCutAtEveryByte()
+{
+    QFile file(KORVEX_TEST_DATA "/7z/extract-progress-26.02.txt");
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray captured = file.readAll();
+    QSet<int> percents;
+    int reached = 0;
+    for (int end = 1; end <= captured.size(); ++end) {
+        // As the runner has it when nothing was read before.
+        const auto reading = readSevenZipProgress(QString::fromUtf8(captured.left(end)));
+        if (!reading)
+            continue;
+        QVERIFY(reading->percent >= reached && reading->percent <= 100);
+        reached = reading->percent;
+        percents.insert(reached);
+        QVERIFY2(QString("part 00.bin").size() >= reading->entry.size(),
+                 qPrintable(reading->entry));
+    }
+    QVERIFY2(percents.size() >= 5, qPrintable(QString::number(percents.size())));
 }
 
 void TstSevenZip::entryTextHoldsNoControlCharacter()
