@@ -32,6 +32,16 @@ void putOver(QWidget* dialog, const QWidget* owner)
     dialog->move(rectangle.topLeft());
 }
 
+QWidget* neighbourInFocusChain(const QWidget* widget, bool next)
+{
+    return next ? widget->nextInFocusChain() : widget->previousInFocusChain();
+}
+
+bool takesTabFocus(const QWidget& widget)
+{
+    return (widget.focusPolicy() & Qt::TabFocus) && widget.isEnabled() && widget.isVisible();
+}
+
 } // namespace
 
 ImageDialog::ImageDialog(bool modal)
@@ -62,4 +72,20 @@ void ImageDialog::announceVisible(bool visible)
 void ImageDialog::announceMove()
 {
     emit sigmove();
+}
+
+bool ImageDialog::focusNextPrevChild(bool next)
+{
+    if (isWindow())
+        return ImageWindow<QDialog>::focusNextPrevChild(next);
+    QWidget* const start =
+        isAncestorOf(QApplication::focusWidget()) ? QApplication::focusWidget() : this;
+    for (QWidget* candidate = neighbourInFocusChain(start, next); candidate != start;
+         candidate = neighbourInFocusChain(candidate, next)) {
+        if (isAncestorOf(candidate) && takesTabFocus(*candidate)) {
+            candidate->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+            return true;
+        }
+    }
+    return false;
 }

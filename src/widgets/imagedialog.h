@@ -33,4 +33,6 @@ signals:
 protected:
     void announceVisible(bool visible) override;
     void announceMove() override;
+    // In a page, Tab goes round among the page's own widgets: what lies under it is out of reach.
+    bool focusNextPrevChild(bool next) override;
 };

@@ -3,8 +3,8 @@
 
 #include "cimagebutton.h"
 #include "commdialog.h"
+#include "markedtranslator.h"
 #include "modaldriver.h"
-#include "otherlanguage.h"
 #include "testcase.h"
 #include "testmain.h"
 #include "usermouse.h"
@@ -252,11 +252,11 @@ void TstCommDialog::captionsFollowTheLanguage()
     dialog.SetOpen("/tmp");
     dialog.SetText("Done.");
     dialog.show();
-    OtherLanguage language;
+    MarkedTranslator language;
     QVERIFY(QCoreApplication::installTranslator(&language));
     QCoreApplication::processEvents();
-    QCOMPARE(part(dialog, "btncancel")->accessibleName(), QString("OPEN FOLDER"));
-    QCOMPARE(part(dialog, "btnclose")->accessibleName(), QString("CLOSE"));
+    QCOMPARE(part(dialog, "btncancel")->accessibleName(), QString("<Open Folder>"));
+    QCOMPARE(part(dialog, "btnclose")->accessibleName(), QString("<Close>"));
     QCOMPARE(dialog.findChild<QLabel*>("label")->text(), QString("Done."));
     QCoreApplication::removeTranslator(&language);
     QCoreApplication::processEvents();

@@ -6,6 +6,7 @@
 #include "testcase.h"
 #include "testmain.h"
 
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QWindow>
 
@@ -50,6 +51,7 @@ private slots:
 
     void dialogComesUpOverTheWindowInUse();
     void pageInsideAWindowStaysWhereItIsPut();
+    void tabStaysInsideAPage();
 
 private:
     static void windows();
@@ -329,6 +331,31 @@ void TstImageWindow::pageInsideAWindowStaysWhereItIsPut()
     page->show();
     QCOMPARE(page->pos(), QPoint(195, 107));
     QVERIFY(!page->isWindow());
+}
+
+void TstImageWindow::tabStaysInsideAPage()
+{
+    QWidget window;
+    QPushButton below("below", &window);
+    ImageDialog* const page = new ImageDialog;
+    page->setParent(&window);
+    QPushButton first("first", page);
+    QPushButton off("off", page);
+    off.setEnabled(false);
+    QPushButton second("second", page);
+    window.show();
+    page->show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    page->setFocus();
+    const auto focusAfter = [](Qt::Key key) {
+        QTest::keyClick(QApplication::focusWidget(), key);
+        return qobject_cast<QPushButton*>(QApplication::focusWidget())->text();
+    };
+    QStringList order;
+    for (int i = 0; i < 3; ++i)
+        order.append(focusAfter(Qt::Key_Tab));
+    QCOMPARE(order, QStringList({"first", "second", "first"}));
+    QCOMPARE(focusAfter(Qt::Key_Backtab), QString("second"));
 }
 
 KORVEX_TEST_MAIN(TstImageWindow)

@@ -26,6 +26,7 @@ const char* const folderViewStyle =
 const char* const entryTableStyle =
     "QTableWidget { background: white; gridline-color: #C2EFFD; border: 1px solid #C2EFFD;"
     " selection-background-color: #C2EFFD; selection-color: black; }"
+    "QTableWidget:disabled { selection-color: #A0A0A0; }"
     "QTableWidget::indicator { width: 12px; height: 12px; }"
     "QHeaderView::section { font: 13pt; color: black; }";
 

@@ -1,0 +1,123 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "cpage2.h"
+#include "mainwindow.h"
+#include "modaldriver.h"
+#include "processcounts.h"
+#include "scriptedcalls.h"
+#include "startup.h"
+#include "testcase.h"
+#include "testmain.h"
+#include "usermouse.h"
+
+#include <QProcess>
+#include <QTableWidget>
+
+namespace
+{
+
+const char* const closeArgument = "--close-while-extracting";
+
+QString toolPath()
+{
+    return QCoreApplication::applicationDirPath() + "/7z/7z";
+}
+
+void loadAndExtract(CPage2& page)
+{
+    ModalDriver driver;
+    driver.typePath(KORVEX_TEST_DATA "/7z/list-plain-26.02.txt");
+    page.OnLoadISO();
+    QTableWidget* const table = page.findChild<QTableWidget*>("list");
+    if (!QTest::qWaitFor([table] { return table->rowCount() > 0; }, 10000))
+        qFatal("not loaded");
+    ScriptedCalls(toolPath())
+        .setScript({"out 10% 1 - big.bin\\n", "lines 1000 line", "sleep 4000"});
+    table->item(0, 0)->setCheckState(Qt::Checked);
+    driver.typePath(QDir::tempPath());
+    page.OnExtract();
+}
+
+// The program with an extraction under way, whose close button is then clicked.
+int closeWhileExtracting(int argc, char* argv[])
+{
+    prepareProcess();
+    const QApplication application(argc, argv);
+    ScriptedCalls(toolPath()).setScript({"file 4096 " KORVEX_TEST_DATA "/7z/list-plain-26.02.txt"});
+    MainWindow window(nullptr);
+    window.show();
+    window.onExtract();
+    loadAndExtract(*window.findChild<CPage2*>());
+    QTest::qWait(300);
+    window.onClose();
+    return 1; // never reached
+}
+
+} // namespace
+
+// The program as a process of its own.
+class TstProgram : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void startsAndStays_data();
+    void startsAndStays();
+    void closeButtonEndsTheProcessWhileAToolRuns();
+};
+
+void TstProgram::startsAndStays_data()
+{
+    QTest::addColumn<QStringList>("variables");
+    QTest::newRow("usual") << QStringList();
+    QTest::newRow("plain locale") << QStringList{"LC_ALL=C"};
+    QTest::newRow("unknown locale") << QStringList{"LC_ALL=xx_XX"};
+    QTest::newRow("swedish") << QStringList{"LC_ALL=sv_SE.UTF-8"};
+    QTest::newRow("high density") << QStringList{"QT_SCALE_FACTOR=2"};
+    QTest::newRow("no home") << QStringList{"HOME=/nonexistent"};
+}
+
+void TstProgram::startsAndStays()
+{
+    QFETCH(QStringList, variables);
+    QProcess program;
+    program.setProcessEnvironment(QProcessEnvironment::systemEnvironment());
+    QProcessEnvironment environment = program.processEnvironment();
+    environment.insert("XDG_RUNTIME_DIR", QDir::tempPath());
+    for (const QString& variable : qAsConst(variables))
+        environment.insert(variable.section('=', 0, 0), variable.section('=', 1));
+    program.setProcessEnvironment(environment);
+    program.start(KORVEX_PROGRAM, QStringList());
+    QVERIFY(program.waitForStarted());
+    QVERIFY(!program.waitForFinished(1000));
+    program.terminate();
+    QVERIFY(program.waitForFinished(5000));
+    const QString errors = QString::fromUtf8(program.readAllStandardError());
+    for (const char* const sign : {"connect", "Could not", "null", "QPixmap", "QThread", "Parse"})
+        QVERIFY2(!errors.contains(sign), qPrintable(errors));
+}
+
+void TstProgram::closeButtonEndsTheProcessWhileAToolRuns()
+{
+    for (int run = 0; run < 5; ++run) {
+        QProcess program;
+        program.setProcessChannelMode(QProcess::MergedChannels);
+        program.start(QCoreApplication::applicationFilePath(), {closeArgument});
+        QVERIFY2(program.waitForFinished(20000), program.readAll());
+        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(program.exitCode(), 0);
+        // The tool goes on without the program.
+        QCOMPARE(processesOf("scriptedtool").size(), 1);
+        QVERIFY(QTest::qWaitFor([] { return processesOf("scriptedtool").isEmpty(); }, 10000));
+    }
+}
+
+int main(int argc, char* argv[])
+{
+    if (argc == 2 && qstrcmp(argv[1], closeArgument) == 0)
+        return closeWhileExtracting(argc, argv);
+    return runTests<TstProgram>(argc, argv);
+}
+
+#include "tst_program.moc"
