@@ -41,10 +41,6 @@ class TstCTree : public TestCase
     Q_OBJECT
 
 private slots:
-    void newItemIsAnEmptyFolder();
-    void nameAndFolderOfAPath_data();
-    void nameAndFolderOfAPath();
-    void renameReplacesTheLastComponent();
     void renameOfAFolderLeavesTheChildrensPaths();
     void copyOfAnItemHasASubtreeOfItsOwn();
     void assignmentOfASubtreeToItsOwnParent();
@@ -67,61 +63,8 @@ private slots:
     void totalSizeOfAListingIsZero();
     void totalSizeMeasuresAddedFilesOnDisk();
     void clearEmptiesEverything();
-    void itemPointerTravelsInAVariant();
     void fiftyThousandEntries();
 };
-
-void TstCTree::newItemIsAnEmptyFolder()
-{
-    const Item item;
-    QVERIFY(item.isDir);
-    QCOMPARE(item.reserved, qint64(0));
-    QVERIFY(item.path.isEmpty() && item.localPath.isEmpty());
-    QVERIFY(item.sizeText.isEmpty() && item.timeText.isEmpty());
-    QVERIFY(item.children.isEmpty());
-}
-
-void TstCTree::nameAndFolderOfAPath_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("folder");
-    QTest::newRow("nested") << "a/b/c"
-                            << "c"
-                            << "a/b";
-    QTest::newRow("top level entry has no folder") << "c"
-                                                   << "c"
-                                                   << "";
-    QTest::newRow("path that ends in a slash has no name") << "a/b/"
-                                                           << ""
-                                                           << "a/b";
-    QTest::newRow("root") << ""
-                          << ""
-                          << "";
-    QTest::newRow("blanks and quotes") << "My \"Docs\"/ a b "
-                                       << " a b "
-                                       << "My \"Docs\"";
-    QTest::newRow("scripts") << QString::fromUtf8("Документы/日本語") << QString::fromUtf8("日本語")
-                             << QString::fromUtf8("Документы");
-}
-
-void TstCTree::nameAndFolderOfAPath()
-{
-    QFETCH(QString, path);
-    const Item item = fileItem(path);
-    QTEST(item.GetName(), "name");
-    QTEST(item.GetRelPath(), "folder");
-}
-
-void TstCTree::renameReplacesTheLastComponent()
-{
-    Item nested = fileItem("a/old.txt");
-    nested.Rename("new.txt");
-    QCOMPARE(nested.path, QString("a/new.txt"));
-    Item top = fileItem("old");
-    top.Rename("n");
-    QCOMPARE(top.path, QString("n"));
-}
 
 void TstCTree::renameOfAFolderLeavesTheChildrensPaths()
 {
@@ -374,15 +317,6 @@ void TstCTree::clearEmptiesEverything()
     QVERIFY(tree.root.sizeText.isEmpty() && tree.root.timeText.isEmpty());
     QVERIFY(tree.root.isDir && tree.root.children.isEmpty());
     QCOMPARE(tree.TotalSize(), qint64(0));
-}
-
-void TstCTree::itemPointerTravelsInAVariant()
-{
-    Item item;
-    const QVariant variant = QVariant::fromValue(&item);
-    QCOMPARE(variant.userType(), QMetaType::type("Item*"));
-    QCOMPARE(QMetaObject::normalizedType("Item *"), QByteArray(variant.typeName()));
-    QCOMPARE(variant.value<Item*>(), &item);
 }
 
 void TstCTree::fiftyThousandEntries()
