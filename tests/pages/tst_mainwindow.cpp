@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "cimagebutton.h"
-#include "mainwindow.h"
+#include "mainwindowtest.h"
 #include "picture.h"
 #include "startup.h"
-#include "testcase.h"
 #include "testmain.h"
 #include "usermouse.h"
 
@@ -19,17 +18,11 @@
 
 // The home screen: its buttons, what they look like to the eye and to assistive tools, and what
 // they open.
-class TstMainWindow : public TestCase
+class TstMainWindow : public MainWindowTest
 {
     Q_OBJECT
 
-public slots:
-    void opened(const QUrl& address) { openedAddress = address; }
-
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
     void windowHasItsNameTitleAndSize();
     void buttonsAreCreatedInOrder();
     void buttonsLieWhereTheyShould_data();
@@ -46,40 +39,7 @@ private slots:
     void homeAndHelpOpenTheirAddresses_data();
     void homeAndHelpOpenTheirAddresses();
     void driveChangesCanBeAnnounced();
-
-private:
-    CImageButton* button(const QString& name) const;
-
-    std::unique_ptr<MainWindow> window;
-    QUrl openedAddress;
 };
-
-void TstMainWindow::initTestCase()
-{
-    setApplicationLook();
-    QDesktopServices::setUrlHandler("https", this, "opened");
-}
-
-void TstMainWindow::init()
-{
-    TestCase::init();
-    openedAddress.clear();
-    window = std::make_unique<MainWindow>(nullptr);
-    window->show();
-    QVERIFY(QTest::qWaitForWindowActive(window.get()));
-}
-
-void TstMainWindow::cleanup()
-{
-    UserMouse::moveAway(window.get());
-    window.reset();
-    TestCase::cleanup();
-}
-
-CImageButton* TstMainWindow::button(const QString& name) const
-{
-    return window->findChild<CImageButton*>(name, Qt::FindDirectChildrenOnly);
-}
 
 void TstMainWindow::windowHasItsNameTitleAndSize()
 {

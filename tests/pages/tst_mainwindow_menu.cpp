@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "cimagebutton.h"
-#include "mainwindow.h"
+#include "mainwindowtest.h"
 #include "modaldriver.h"
 #include "startup.h"
-#include "testcase.h"
 #include "testmain.h"
 #include "usermouse.h"
 
@@ -15,17 +14,11 @@
 #include <QMenuBar>
 
 // The application menu, which a menu bar shows on some desktops and a button on the others.
-class TstMainWindowMenu : public TestCase
+class TstMainWindowMenu : public MainWindowTest
 {
     Q_OBJECT
 
-public slots:
-    void opened(const QUrl& address) { openedAddress = address; }
-
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
     void menuHasItsEntries();
     void entriesHaveTheirShortcuts();
     void shortcutsWorkInTheWindow();
@@ -38,32 +31,7 @@ private slots:
 private:
     QMenu* menu() const;
     QMenu* languageMenu() const;
-
-    std::unique_ptr<MainWindow> window;
-    QUrl openedAddress;
 };
-
-void TstMainWindowMenu::initTestCase()
-{
-    setApplicationLook();
-    QDesktopServices::setUrlHandler("https", this, "opened");
-}
-
-void TstMainWindowMenu::init()
-{
-    TestCase::init();
-    openedAddress.clear();
-    window = std::make_unique<MainWindow>(nullptr);
-    window->show();
-    QVERIFY(QTest::qWaitForWindowActive(window.get()));
-}
-
-void TstMainWindowMenu::cleanup()
-{
-    UserMouse::moveAway(window.get());
-    window.reset();
-    TestCase::cleanup();
-}
 
 QMenu* TstMainWindowMenu::menu() const
 {

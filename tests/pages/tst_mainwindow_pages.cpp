@@ -3,23 +3,19 @@
 
 #include "cimagebutton.h"
 #include "cpage2.h"
-#include "mainwindow.h"
+#include "mainwindowtest.h"
 #include "startup.h"
-#include "testcase.h"
 #include "testmain.h"
 #include "usermouse.h"
 
 #include <QApplication>
 
 // What the home screen's function buttons open, and where that lies.
-class TstMainWindowPages : public TestCase
+class TstMainWindowPages : public MainWindowTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
     void extractOpensItsPage();
     void extractTwiceOpensTwoPagesTheLaterOnTop();
     void pageCoversTheTilesBelowIt();
@@ -27,37 +23,7 @@ private slots:
     void spaceOnTheExtractButtonOpensOnePage();
     void buttonsOfMissingFunctionsDoNothing_data();
     void buttonsOfMissingFunctionsDoNothing();
-
-private:
-    CImageButton* button(const QString& name) const;
-
-    std::unique_ptr<MainWindow> window;
 };
-
-void TstMainWindowPages::initTestCase()
-{
-    setApplicationLook();
-}
-
-void TstMainWindowPages::init()
-{
-    TestCase::init();
-    window = std::make_unique<MainWindow>(nullptr);
-    window->show();
-    QVERIFY(QTest::qWaitForWindowActive(window.get()));
-}
-
-void TstMainWindowPages::cleanup()
-{
-    UserMouse::moveAway(window.get());
-    window.reset();
-    TestCase::cleanup();
-}
-
-CImageButton* TstMainWindowPages::button(const QString& name) const
-{
-    return window->findChild<CImageButton*>(name, Qt::FindDirectChildrenOnly);
-}
 
 void TstMainWindowPages::extractOpensItsPage()
 {
