@@ -27,7 +27,10 @@ void CRunCommandThread::onReadOutput()
     if (!child)
         return;
     outputArrived = true;
-    readPieces(*child, Unfinished::Leave);
+    if (isStopped())
+        child->closeReadChannel(QProcess::StandardOutput); // what still comes must not pile up
+    else
+        readPieces(*child, Unfinished::Leave);
 }
 
 void CRunCommandThread::onReadErrorOutput()

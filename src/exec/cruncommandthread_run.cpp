@@ -112,6 +112,7 @@ void CRunCommandThread::waitForEnd(CProcess& child)
 void CRunCommandThread::endStopped(CProcess& child)
 {
     process = nullptr;
+    child.closeReadChannel(QProcess::StandardOutput);
     QCoreApplication::processEvents();
     if (child.state() != QProcess::NotRunning)
         child.waitForFinished(politeStopMs);
