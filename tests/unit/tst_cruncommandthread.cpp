@@ -32,7 +32,7 @@ private slots:
     void deleteLaterFromASlotWhileTheToolRuns();
     void fiftyRunsLeaveNothingBehind();
     void toolWithAHeldPipeDoesNotHang();
-    void osascriptIsStartedWhereItExists();
+    void scriptTextIsNotRunAsACommand();
     void childRunsWithUtf8AndDecimalPoints();
     void settingIsReadFromTheIniFile();
 };
@@ -184,16 +184,19 @@ void TstCRunCommandThread::toolWithAHeldPipeDoesNotHang()
     QVERIFY(QTest::qWaitFor([] { return processesOf("scriptedtool").isEmpty(); }, 20000));
 }
 
-void TstCRunCommandThread::osascriptIsStartedWhereItExists()
+void TstCRunCommandThread::scriptTextIsNotRunAsACommand()
 {
+    // A text that would start the stand-in, were it not handed to the script runner.
+    const ScriptedCalls tool(toolPath());
     Run run;
-    run.runner.SetRunCmd("display dialog \"no quoting needed\"", {});
+    run.runner.SetRunCmd(toolPath(), {});
     run.runner.useOsascript = true;
-    if (!QFile::exists("/usr/bin/osascript"))
-        QVERIFY(run.finish());
-    // Elsewhere the start fails like that of any missing tool; the text is not run as a command.
-    QVERIFY(run.pieces.isEmpty());
-    QVERIFY(!run.runner.running);
+    QVERIFY(run.finish());
+    QVERIFY(tool.calls().isEmpty());
+    run.runner.useOsascript = false;
+    run.runner.start(QThread::InheritPriority);
+    QVERIFY(run.waitForEnd(10000, 2));
+    QCOMPARE(tool.calls().size(), 1);
 }
 
 void TstCRunCommandThread::childRunsWithUtf8AndDecimalPoints()

@@ -6,9 +6,7 @@
 #include "testcase.h"
 #include "testmain.h"
 
-#include <QPushButton>
 #include <QSignalSpy>
-#include <QWindow>
 
 #include <functional>
 #include <memory>
@@ -48,10 +46,6 @@ private slots:
     void activationAnnouncesTheVisibility();
     void minimisesOnRequest_data() { windows(); }
     void minimisesOnRequest();
-
-    void dialogComesUpOverTheWindowInUse();
-    void pageInsideAWindowStaysWhereItIsPut();
-    void tabStaysInsideAPage();
 
 private:
     static void windows();
@@ -298,64 +292,6 @@ void TstImageWindow::minimisesOnRequest()
     QVERIFY(QTest::qWaitForWindowActive(window.widget.get()));
     QVERIFY(QMetaObject::invokeMethod(window.widget.get(), "slot_minWindow"));
     QVERIFY(window.widget->isMinimized());
-}
-
-void TstImageWindow::dialogComesUpOverTheWindowInUse()
-{
-    QWidget inUse;
-    inUse.setGeometry(150, 120, 500, 400);
-    inUse.show();
-    inUse.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&inUse));
-    ImageDialog dialog;
-    dialog.setFixedSize(300, 100);
-    dialog.show();
-    QCOMPARE(dialog.windowHandle()->transientParent(), inUse.windowHandle());
-    QCOMPARE(dialog.frameGeometry().center(), inUse.frameGeometry().center());
-    // Again after the window has been moved.
-    dialog.hide();
-    inUse.move(250, 200);
-    QVERIFY(QTest::qWaitForWindowActive(&inUse));
-    dialog.show();
-    QCOMPARE(dialog.frameGeometry().center(), inUse.frameGeometry().center());
-}
-
-void TstImageWindow::pageInsideAWindowStaysWhereItIsPut()
-{
-    QWidget window;
-    window.setGeometry(150, 120, 500, 400);
-    ImageDialog* const page = new ImageDialog;
-    page->setParent(&window);
-    page->move(195, 107);
-    window.show();
-    page->show();
-    QCOMPARE(page->pos(), QPoint(195, 107));
-    QVERIFY(!page->isWindow());
-}
-
-void TstImageWindow::tabStaysInsideAPage()
-{
-    QWidget window;
-    QPushButton below("below", &window);
-    ImageDialog* const page = new ImageDialog;
-    page->setParent(&window);
-    QPushButton first("first", page);
-    QPushButton off("off", page);
-    off.setEnabled(false);
-    QPushButton second("second", page);
-    window.show();
-    page->show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    page->setFocus();
-    const auto focusAfter = [](Qt::Key key) {
-        QTest::keyClick(QApplication::focusWidget(), key);
-        return qobject_cast<QPushButton*>(QApplication::focusWidget())->text();
-    };
-    QStringList order;
-    for (int i = 0; i < 3; ++i)
-        order.append(focusAfter(Qt::Key_Tab));
-    QCOMPARE(order, QStringList({"first", "second", "first"}));
-    QCOMPARE(focusAfter(Qt::Key_Backtab), QString("second"));
 }
 
 KORVEX_TEST_MAIN(TstImageWindow)
