@@ -6,6 +6,7 @@
 #include "caboutusdialog.h"
 #include "cimagebutton.h"
 #include "cpage2.h"
+#include "cpage3.h"
 #include "util.h"
 
 #include <QDesktopServices>
@@ -146,7 +147,14 @@ void MainWindow::onExtract()
     page->show();
 }
 
-void MainWindow::onCreate() {}
+void MainWindow::onCreate()
+{
+    CPage3* const page = new CPage3(this);
+    page->move(pagePosition);
+    page->SetMoveable(false);
+    page->setParent(this);
+    page->show();
+}
 
 void MainWindow::onEdit() {}
 

@@ -1,6 +1,7 @@
 // Copyright (c) 2026 The Korvex ISO Editor developers
 // SPDX-License-Identifier: MIT
 
+#include "folderlinks.h"
 #include "util.h"
 
 #include <QDebug>
@@ -29,6 +30,8 @@ void dropClash(const QDir& dst, const QFileInfo& source)
 bool copyEntry(const QFileInfo& entry, const QDir& dst)
 {
     const QString target = dst.absoluteFilePath(entry.fileName());
+    if (leadsBack(entry))
+        return QDir().mkpath(target);
     if (entry.isDir())
         return Util::DirCopy(entry.absoluteFilePath(), target);
     if (QFileInfo::exists(target))
@@ -132,8 +135,12 @@ qint64 Util::DirSize(QString path)
         return 0;
     qint64 bytes = 0;
     const QFileInfoList entries =
-        QDir(path).entryInfoList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot);
-    for (const QFileInfo& entry : entries)
-        bytes += entry.isDir() ? DirSize(entry.absoluteFilePath()) : entry.size();
+        QDir(path).entryInfoList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
+    for (const QFileInfo& entry : entries) {
+        if (!entry.isDir())
+            bytes += entry.size();
+        else if (!leadsBack(entry))
+            bytes += DirSize(entry.absoluteFilePath());
+    }
     return bytes;
 }

@@ -4,6 +4,7 @@
 #include "imagedialog.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMainWindow>
 #include <QWindow>
 
@@ -88,4 +89,12 @@ bool ImageDialog::focusNextPrevChild(bool next)
         }
     }
     return false;
+}
+
+void ImageDialog::keyPressEvent(QKeyEvent* event)
+{
+    if (!isWindow() && event->key() == Qt::Key_Escape)
+        event->ignore();
+    else
+        ImageWindow<QDialog>::keyPressEvent(event);
 }

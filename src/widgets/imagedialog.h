@@ -35,4 +35,6 @@ protected:
     void announceMove() override;
     // In a page, Tab goes round among the page's own widgets: what lies under it is out of reach.
     bool focusNextPrevChild(bool next) override;
+    // Escape closes a dialog, but no page: going back is the business of the page's button.
+    void keyPressEvent(QKeyEvent* event) override;
 };

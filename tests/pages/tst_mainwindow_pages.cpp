@@ -3,12 +3,14 @@
 
 #include "cimagebutton.h"
 #include "cpage2.h"
+#include "cpage3.h"
 #include "mainwindowtest.h"
 #include "startup.h"
 #include "testmain.h"
 #include "usermouse.h"
 
 #include <QApplication>
+#include <QPointer>
 
 // What the home screen's function buttons open, and where that lies.
 class TstMainWindowPages : public MainWindowTest
@@ -17,6 +19,8 @@ class TstMainWindowPages : public MainWindowTest
 
 private slots:
     void extractOpensItsPage();
+    void createOpensItsPage();
+    void closedCreatePageIsFreed();
     void extractTwiceOpensTwoPagesTheLaterOnTop();
     void pageCoversTheTilesBelowIt();
     void pageStaysWhereItIsWhenDragged();
@@ -34,6 +38,26 @@ void TstMainWindowPages::extractOpensItsPage()
     QCOMPARE(pages.first()->parentWidget(), window.get());
     QCOMPARE(pages.first()->pos(), QPoint(195, 107));
     QVERIFY(!pages.first()->isWindow());
+}
+
+void TstMainWindowPages::createOpensItsPage()
+{
+    UserMouse::click(button("create"));
+    const auto pages = window->findChildren<CPage3*>();
+    QCOMPARE(pages.size(), 1);
+    QVERIFY(pages.first()->isVisible());
+    QCOMPARE(pages.first()->parentWidget(), window.get());
+    QCOMPARE(pages.first()->pos(), QPoint(195, 107));
+    QVERIFY(!pages.first()->isWindow());
+}
+
+void TstMainWindowPages::closedCreatePageIsFreed()
+{
+    window->onCreate();
+    const QPointer<CPage3> page = window->findChild<CPage3*>();
+    UserMouse::click(page->findChild<QWidget*>("back"));
+    QVERIFY(page.isNull() || !page->isVisible());
+    QTRY_VERIFY(page.isNull());
 }
 
 void TstMainWindowPages::extractTwiceOpensTwoPagesTheLaterOnTop()
@@ -85,7 +109,7 @@ void TstMainWindowPages::spaceOnTheExtractButtonOpensOnePage()
 void TstMainWindowPages::buttonsOfMissingFunctionsDoNothing_data()
 {
     QTest::addColumn<QString>("name");
-    for (const char* const name : {"burn", "create", "edit", "copy"})
+    for (const char* const name : {"burn", "edit", "copy"})
         QTest::newRow(name) << name;
 }
 

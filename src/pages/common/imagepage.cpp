@@ -4,7 +4,6 @@
 #include "imagepage.h"
 
 #include "cmytreewidget.h"
-#include "cruncommandthread.h"
 #include "nofocusdelegate.h"
 #include "scheckboxheaderview.h"
 #include "sevenzipcommand.h"
@@ -14,7 +13,6 @@
 #include <QFileIconProvider>
 #include <QFileInfo>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QTableWidget>
 
 namespace
@@ -50,10 +48,7 @@ ImagePage::ImagePage(QWidget* parent)
 {
 }
 
-ImagePage::~ImagePage()
-{
-    delete listingRunner;
-}
+ImagePage::~ImagePage() = default;
 
 QTreeWidget* ImagePage::createFolderView(QPoint position, QSize size)
 {
@@ -215,13 +210,4 @@ void ImagePage::RefreshTreeWidget()
     node->setSelected(true);
     node->setExpanded(true);
     folderView->scrollToItem(node);
-}
-
-// Escape would close the page behind the back of a listing; going back is the button's business.
-void ImagePage::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape)
-        event->ignore();
-    else
-        ImageDialog::keyPressEvent(event);
 }

@@ -6,11 +6,10 @@
 #include "ctree.h"
 #include "imagedialog.h"
 #include "listingreader.h"
+#include "toolrun.h"
 
 #include <QIcon>
-#include <QPointer>
 
-class CRunCommandThread;
 class QTableWidget;
 class QTableWidgetItem;
 class QTreeWidget;
@@ -56,9 +55,6 @@ protected:
     void setTableHeaderTexts();
     // Empties tree and views and lists the image at isoPath with these arguments of the archiver.
     void startListing(const QStringList& arguments);
-    // True while a runner other than `expected` delivers what it had already sent.
-    bool isLateSignalOf(const CRunCommandThread* expected) const;
-    void keyPressEvent(QKeyEvent* event) override;
 
     QString isoPath;
     CTree tree;
@@ -71,6 +67,6 @@ private:
     void fillRow(int row, const Item& item);
 
     ListingReader listingReader;
-    QPointer<CRunCommandThread> listingRunner;
+    ToolRun listingRun;
     QIcon folderIcon;
 };

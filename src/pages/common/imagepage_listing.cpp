@@ -3,7 +3,6 @@
 
 // Listing an image: the archiver's lines become the tree, the tree becomes the views.
 
-#include "cruncommandthread.h"
 #include "imagepage.h"
 #include "sevenzipcommand.h"
 #include "util.h"
@@ -15,20 +14,15 @@
 
 void ImagePage::startListing(const QStringList& arguments)
 {
-    CRunCommandThread* const runner = new CRunCommandThread(nullptr);
-    listingRunner = runner;
-    connect(runner, SIGNAL(standoutputline(QString)), this, SLOT(OnLineOutput(QString)));
-    // The listing ends with its second separator. This only frees a runner that never sends one.
-    connect(runner, SIGNAL(finished()), runner, SLOT(deleteLater()));
     current = nullptr;
     // The nodes point into the tree that is about to be emptied.
     folderView->clear();
     RefreshTable();
-    runner->SetRunCmd(sevenZipProgram(), arguments);
     listingReader.reset();
     tree.Clear();
     tree.name = QFileInfo(isoPath).fileName();
-    runner->start(QThread::InheritPriority);
+    // The listing ends with its second separator, not with the tool.
+    listingRun.start(this, SLOT(OnLineOutput(QString)), nullptr, sevenZipProgram(), arguments);
 }
 
 void ImagePage::OnLineOutput(QString line)
@@ -62,10 +56,4 @@ void ImagePage::OnUnzipFinished()
     top->setExpanded(true);
     current = &tree.root;
     RefreshTable();
-}
-
-bool ImagePage::isLateSignalOf(const CRunCommandThread* expected) const
-{
-    const CRunCommandThread* const source = qobject_cast<CRunCommandThread*>(sender());
-    return source && source != expected;
 }

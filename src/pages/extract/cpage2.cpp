@@ -5,7 +5,6 @@
 
 #include "cimagebutton.h"
 #include "cprogressdialog.h"
-#include "cruncommandthread.h"
 #include "tickdelegate.h"
 #include "util.h"
 
@@ -36,10 +35,7 @@ CPage2::CPage2(QWidget* parent)
     SetBackGround(":/nwu/page2");
 }
 
-CPage2::~CPage2()
-{
-    delete runner;
-}
+CPage2::~CPage2() = default;
 
 void CPage2::InitializeUI()
 {

@@ -56,7 +56,6 @@ private:
     QStringList tickedNames() const;
     QString currentFolderPrefix() const;
     void startExtraction(const QStringList& arguments);
-    void stopRunner();
     void moveExtractedUp() const;
 
     CImageButton* loadIso = nullptr;
@@ -74,6 +73,5 @@ private:
     QString folderPrefix;
     QStringList selectedNames;
     int shownPercent = 0;
-    // The extraction in progress, or null. Frees itself when its thread has ended.
-    QPointer<CRunCommandThread> runner;
+    ToolRun run;
 };

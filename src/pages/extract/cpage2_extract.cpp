@@ -5,7 +5,6 @@
 
 #include "cpage2.h"
 #include "cprogressdialog.h"
-#include "cruncommandthread.h"
 #include "debugstreams.h"
 #include "gerneraldialog.h"
 #include "sevenzipcommand.h"
@@ -78,33 +77,21 @@ QString CPage2::currentFolderPrefix() const
 
 void CPage2::startExtraction(const QStringList& arguments)
 {
-    stopRunner();
-    runner = new CRunCommandThread(nullptr);
-    connect(runner, SIGNAL(sigfinished()), this, SLOT(OnExtractFinished()));
-    connect(runner, SIGNAL(standoutputline(QString)), this, SLOT(OnExtractOutput(QString)));
-    // However its run ends, a runner is used once.
-    connect(runner, SIGNAL(finished()), runner, SLOT(deleteLater()));
-    runner->SetRunCmd(sevenZipProgram(), arguments);
+    run.stop();
     setEnabled(false);
     shownPercent = 0;
     progress->SetText(tr("Extracting files..."));
     progress->SetRange(0, 100);
     progress->SetValue(0);
     progress->show();
-    runner->start(QThread::InheritPriority);
-}
-
-void CPage2::stopRunner()
-{
-    if (runner)
-        runner->terminate();
-    runner = nullptr;
+    run.start(this, SLOT(OnExtractOutput(QString)), SLOT(OnExtractFinished()), sevenZipProgram(),
+              arguments);
 }
 
 void CPage2::OnExtractOutput(QString line)
 {
     qCDebug(toolOutput) << "CPage2::OnExtractOutput" << line;
-    if (isLateSignalOf(runner))
+    if (run.isLate(sender()))
         return;
     const auto reading = readSevenZipProgress(line);
     if (!reading)
@@ -120,9 +107,9 @@ void CPage2::OnExtractOutput(QString line)
 void CPage2::OnExtractFinished()
 {
     // A Stop that came just before this signal has ended the extraction already.
-    if (isLateSignalOf(runner))
+    if (run.isLate(sender()))
         return;
-    runner = nullptr;
+    run.forget();
     moveExtractedUp();
     setEnabled(true);
     progress->hide();
@@ -141,6 +128,6 @@ void CPage2::moveExtractedUp() const
 
 void CPage2::OnStopExtract()
 {
-    stopRunner();
+    run.stop();
     setEnabled(true);
 }

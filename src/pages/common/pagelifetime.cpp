@@ -1,0 +1,45 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "pagelifetime.h"
+
+#include "cfilecopy.h"
+
+#include <QWidget>
+
+PageLifetime::PageLifetime(QWidget* owner, CFileCopy& pageQueue)
+    : page(owner)
+    , queue(pageQueue)
+{
+    connect(&queue, SIGNAL(finished()), this, SLOT(freePageIfIdle()));
+}
+
+void PageLifetime::close()
+{
+    closed = true;
+    queue.stop();
+    freePageIfIdle();
+}
+
+bool PageLifetime::isClosed() const
+{
+    return closed;
+}
+
+void PageLifetime::freePageIfIdle()
+{
+    if (closed && steps == 0 && queue.isFinished())
+        page->deleteLater();
+}
+
+PageLifetime::Step::Step(PageLifetime& pageLifetime)
+    : lifetime(pageLifetime)
+{
+    ++lifetime.steps;
+}
+
+PageLifetime::Step::~Step()
+{
+    --lifetime.steps;
+    lifetime.freePageIfIdle();
+}

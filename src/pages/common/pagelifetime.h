@@ -1,0 +1,48 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QObject>
+
+class CFileCopy;
+class QWidget;
+
+// Frees a page that has a copy queue once it is closed and nothing of it is at work any more: the
+// copy in progress ends in the background instead of freezing the window, and a step of the page
+// that processes events finds the page alive when it goes on.
+class PageLifetime : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Of page and its queue, which both outlive this object. The page calls close() from its
+    // closeEvent().
+    PageLifetime(QWidget* page, CFileCopy& queue);
+
+    // Stops the queue; the page goes as soon as it can. The page may not be shown again.
+    void close();
+    bool isClosed() const;
+
+    // While one lives, the page stays.
+    class Step
+    {
+    public:
+        explicit Step(PageLifetime& lifetime);
+        ~Step();
+        Step(const Step&) = delete;
+        Step& operator=(const Step&) = delete;
+
+    private:
+        PageLifetime& lifetime;
+    };
+
+private slots:
+    void freePageIfIdle();
+
+private:
+    QWidget* page;
+    CFileCopy& queue;
+    int steps = 0;
+    bool closed = false;
+};

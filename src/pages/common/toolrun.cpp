@@ -1,0 +1,47 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "toolrun.h"
+
+#include "cruncommandthread.h"
+
+ToolRun::~ToolRun()
+{
+    delete runner;
+}
+
+void ToolRun::start(QObject* receiver, const char* lineSlot, const char* endSlot,
+                    const QString& program, const QStringList& arguments)
+{
+    runner = new CRunCommandThread(nullptr);
+    QObject::connect(runner, SIGNAL(standoutputline(QString)), receiver, lineSlot);
+    if (endSlot)
+        QObject::connect(runner, SIGNAL(sigfinished()), receiver, endSlot);
+    // However its run ends, a runner is used once.
+    QObject::connect(runner, SIGNAL(finished()), runner, SLOT(deleteLater()));
+    runner->SetRunCmd(program, arguments);
+    runner->start(QThread::InheritPriority);
+}
+
+void ToolRun::stop()
+{
+    if (runner)
+        runner->terminate();
+    forget();
+}
+
+void ToolRun::forget()
+{
+    runner = nullptr;
+}
+
+bool ToolRun::isRunning() const
+{
+    return runner;
+}
+
+bool ToolRun::isLate(const QObject* sender) const
+{
+    const CRunCommandThread* const source = qobject_cast<const CRunCommandThread*>(sender);
+    return source && source != runner;
+}
