@@ -10,8 +10,6 @@
 #include "usermouse.h"
 
 #include <QApplication>
-#include <QLabel>
-#include <QProgressBar>
 #include <QtTest>
 
 namespace
@@ -23,33 +21,21 @@ QString entryLine(const QString& attributes, const QString& size, const QString&
         .arg(attributes, size.rightJustified(12), path);
 }
 
+CPage2* createPage(QWidget& window)
+{
+    CPage2* const page = new CPage2(&window);
+    page->InitializeUI();
+    return page;
+}
+
 } // namespace
 
 ExtractPageFixture::ExtractPageFixture()
-    : tool(toolPath())
-    , page(new CPage2(&window))
+    : PageFixture(createPage(window))
+    , tool(toolPath())
+    , page(window.findChild<CPage2*>())
     , isoPath(path("image.iso"))
 {
-    window.resize(860, 580);
-    page->setParent(&window);
-    page->InitializeUI();
-    page->move(195, 107);
-    page->SetMoveable(false);
-    page->show();
-    window.show();
-    if (!QTest::qWaitForWindowExposed(&window))
-        qFatal("The window did not show");
-}
-
-ExtractPageFixture::~ExtractPageFixture()
-{
-    // A mouse that is left on a button would not enter the next test's button in the same place.
-    UserMouse::moveAway(&window);
-}
-
-void ExtractPageFixture::press(const QString& name) const
-{
-    UserMouse::click(button(name));
 }
 
 QString ExtractPageFixture::fileLine(const QString& path, qint64 bytes)
@@ -231,34 +217,4 @@ QTreeWidget* ExtractPageFixture::tree() const
 QTreeWidgetItem* ExtractPageFixture::topNode() const
 {
     return tree()->topLevelItem(0);
-}
-
-CImageButton* ExtractPageFixture::button(const QString& name) const
-{
-    return page->findChild<CImageButton*>(name);
-}
-
-CProgressDialog* ExtractPageFixture::progress() const
-{
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    for (QWidget* widget : widgets) {
-        if (auto* dialog = qobject_cast<CProgressDialog*>(widget))
-            return dialog;
-    }
-    return nullptr;
-}
-
-QString ExtractPageFixture::progressText() const
-{
-    return progress()->findChild<QLabel*>("label")->text();
-}
-
-int ExtractPageFixture::progressValue() const
-{
-    return progress()->findChild<QProgressBar*>("progressBar")->value();
-}
-
-QString ExtractPageFixture::path(const QString& relative) const
-{
-    return folder.filePath(relative);
 }

@@ -4,26 +4,20 @@
 #pragma once
 
 #include "cpage2.h"
+#include "pagefixture.h"
 #include "scriptedcalls.h"
 
 #include <QPointer>
 #include <QTableWidget>
-#include <QTemporaryDir>
 #include <QTreeWidget>
 
 #include <functional>
 
-class CImageButton;
-class CProgressDialog;
-
 // The Extract page as the main window lays it out, with the stand-in archiver beside the test.
-class ExtractPageFixture
+class ExtractPageFixture : public PageFixture
 {
 public:
     ExtractPageFixture();
-    ~ExtractPageFixture();
-    ExtractPageFixture(const ExtractPageFixture&) = delete;
-    ExtractPageFixture& operator=(const ExtractPageFixture&) = delete;
 
     // A line of the archiver's listing.
     static QString fileLine(const QString& path, qint64 bytes = 6);
@@ -36,8 +30,6 @@ public:
 
     // What the archiver prints from now on: a whole listing of these entries.
     void setListing(const QStringList& entryLines) const;
-    // Clicks one of the page's buttons.
-    void press(const QString& name) const;
     // Starts a load and chooses this image, which is made if it is not there, in the dialog.
     void startLoading(const QString& fileName = "image.iso");
     // True once the three buttons may be pressed again.
@@ -68,16 +60,8 @@ public:
     QTableWidget* table() const;
     QTreeWidget* tree() const;
     QTreeWidgetItem* topNode() const;
-    CImageButton* button(const QString& name) const;
-    // The page's own, which stands apart from it on the screen.
-    CProgressDialog* progress() const;
-    QString progressText() const;
-    int progressValue() const;
-    QString path(const QString& relative) const;
 
-    QTemporaryDir folder;
     ScriptedCalls tool;
-    QWidget window;
     QPointer<CPage2> page;
     QString isoPath;
     // What the success dialog of the last extractTo() said.

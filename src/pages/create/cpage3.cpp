@@ -255,6 +255,11 @@ void CPage3::closeEvent(QCloseEvent* event)
     lifetime.close();
 }
 
+CFileCopy& CPage3::stagingQueue()
+{
+    return queue;
+}
+
 void CPage3::OnTreeClicked(QModelIndex index)
 {
     // On empty space: what is added next goes to the image's root.

@@ -51,6 +51,8 @@ public:
     void InnerAddDir(Item* item, QString folder, QTreeWidgetItem* parentRow, QTreeWidget* view);
     // Deletes a row and those below it.
     void del(QTreeWidgetItem* row);
+    // What copies into the staging folder.
+    CFileCopy& stagingQueue();
 
 public slots:
     void OnAddFile();

@@ -1,0 +1,123 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "createpagefixture.h"
+
+#include "cfilecopy.h"
+#include "cimagebutton.h"
+#include "cprogressdialog.h"
+#include "modaldriver.h"
+#include "usermouse.h"
+#include "util.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QLabel>
+#include <QTimer>
+#include <QtTest>
+
+CreatePageFixture::CreatePageFixture()
+    : PageFixture(new CPage3(&window))
+    , page(window.findChild<CPage3*>())
+    , tool(toolPath())
+{
+}
+
+QString CreatePageFixture::toolPath()
+{
+    return QCoreApplication::applicationDirPath() + "/cdrtools/mkisofs";
+}
+
+QString CreatePageFixture::stagingFolder()
+{
+    return Util::GetTempDir() + "/tmp";
+}
+
+void CreatePageFixture::addFiles(const QStringList& paths) const
+{
+    ModalDriver driver;
+    // The file dialog takes several names in quotes.
+    driver.typePath(paths.size() == 1 ? paths.first() : '"' + paths.join("\" \"") + '"');
+    page->OnAddFile();
+}
+
+void CreatePageFixture::addFolder(const QString& path) const
+{
+    ModalDriver driver;
+    driver.typePath(path);
+    page->OnAddDir();
+}
+
+void CreatePageFixture::removeSelected() const
+{
+    page->OnRemove();
+}
+
+void CreatePageFixture::select(QTreeWidgetItem* row) const
+{
+    if (row)
+        list()->scrollToItem(row);
+    QWidget* const viewport = list()->viewport();
+    const QPoint point = row ? list()->visualItemRect(row).center()
+                             : QPoint(viewport->width() / 2, viewport->height() - 4);
+    UserMouse::press(viewport, point);
+    UserMouse::release(viewport, point);
+    QCoreApplication::processEvents();
+}
+
+QTreeWidgetItem* CreatePageFixture::row(const QStringList& names) const
+{
+    QTreeWidgetItem* found = list()->invisibleRootItem();
+    for (const QString& name : names) {
+        QTreeWidgetItem* next = nullptr;
+        for (int i = 0; found && i < found->childCount() && !next; ++i) {
+            if (found->child(i)->text(0) == name)
+                next = found->child(i);
+        }
+        found = next;
+    }
+    return found;
+}
+
+QStringList CreatePageFixture::texts(const QTreeWidgetItem* row)
+{
+    QStringList texts;
+    for (int column = 0; column < 5; ++column)
+        texts.append(row->text(column));
+    return texts;
+}
+
+bool CreatePageFixture::waitUntilStaged(int limitMs) const
+{
+    return QTest::qWaitFor([this] { return !page->stagingQueue().HasTasks(); }, limitMs);
+}
+
+void CreatePageFixture::startCreating(const QString& isoPath) const
+{
+    ModalDriver driver;
+    driver.typePath(isoPath);
+    page->OnCreate();
+}
+
+// The progress dialog is modal as well, so the message is whichever other dialog comes.
+QString CreatePageFixture::waitForMessage(int limitMs) const
+{
+    QString text;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, [&text] {
+        QWidget* const dialog = QApplication::activeModalWidget();
+        if (!dialog || qobject_cast<CProgressDialog*>(dialog))
+            return;
+        text = dialog->findChild<QLabel*>("label")->text();
+        UserMouse::moveAway(dialog);
+        UserMouse::click(dialog->findChild<QWidget*>("btnok"));
+    });
+    poll.start(20);
+    const auto isOver = [&text] { return !text.isNull() && !QApplication::activeModalWidget(); };
+    return QTest::qWaitFor(isOver, limitMs) ? text : QString();
+}
+
+QTreeWidget* CreatePageFixture::list() const
+{
+    return page->findChild<QTreeWidget*>("list");
+}

@@ -1,0 +1,45 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "cpage3.h"
+#include "pagefixture.h"
+#include "scriptedcalls.h"
+
+#include <QTreeWidget>
+
+// The Create page as the main window lays it out. With the stand-in tools beside the test, `tool`
+// tells mkisofs what to do.
+class CreatePageFixture : public PageFixture
+{
+public:
+    CreatePageFixture();
+
+    static QString toolPath();
+    // Where the page copies to, without a trailing "/".
+    static QString stagingFolder();
+
+    // Add and Remove as the user does them, the paths typed into the dialog.
+    void addFiles(const QStringList& paths) const;
+    void addFolder(const QString& path) const;
+    void removeSelected() const;
+    // Clicks into the list: a row, or empty space without one.
+    void select(QTreeWidgetItem* row) const;
+    // The row with these names from the top down, null if there is none.
+    QTreeWidgetItem* row(const QStringList& names) const;
+    // The texts of a row's columns.
+    static QStringList texts(const QTreeWidgetItem* row);
+    // Waits until all that was added or removed is in the staging folder.
+    bool waitUntilStaged(int limitMs = 30000) const;
+
+    // Presses Create ISO and chooses this file: returns once the tool has been started.
+    void startCreating(const QString& isoPath) const;
+    // Waits for the message that follows every run, closes it and returns its text.
+    QString waitForMessage(int limitMs = 30000) const;
+
+    QTreeWidget* list() const;
+
+    QPointer<CPage3> page;
+    ScriptedCalls tool;
+};

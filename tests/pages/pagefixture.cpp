@@ -1,0 +1,83 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "pagefixture.h"
+
+#include "cimagebutton.h"
+#include "cprogressdialog.h"
+#include "usermouse.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QProgressBar>
+#include <QtTest>
+
+PageFixture::PageFixture(ImageDialog* page)
+    : shownPage(page)
+{
+    window.resize(860, 580);
+    page->setParent(&window);
+    page->move(195, 107);
+    page->SetMoveable(false);
+    page->show();
+    window.show();
+    if (!QTest::qWaitForWindowExposed(&window))
+        qFatal("The window did not show");
+}
+
+PageFixture::~PageFixture()
+{
+    // A mouse that is left on a button would not enter the next test's button in the same place.
+    UserMouse::moveAway(&window);
+}
+
+void PageFixture::press(const QString& name) const
+{
+    UserMouse::click(button(name));
+}
+
+CImageButton* PageFixture::button(const QString& name) const
+{
+    return shownPage->findChild<CImageButton*>(name);
+}
+
+CProgressDialog* PageFixture::progress() const
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget* widget : widgets) {
+        if (auto* dialog = qobject_cast<CProgressDialog*>(widget))
+            return dialog;
+    }
+    return nullptr;
+}
+
+QString PageFixture::progressText() const
+{
+    return progress()->findChild<QLabel*>("label")->text();
+}
+
+int PageFixture::progressValue() const
+{
+    return progress()->findChild<QProgressBar*>("progressBar")->value();
+}
+
+int PageFixture::progressMaximum() const
+{
+    return progress()->findChild<QProgressBar*>("progressBar")->maximum();
+}
+
+// A dialog that has just come up may not have noticed the mouse yet, so the mouse comes from
+// outside, and a click that is lost all the same is repeated.
+void PageFixture::pressStop() const
+{
+    QWidget* const dialog = progress();
+    for (int attempt = 0; dialog->isVisible() && attempt < 100; ++attempt) {
+        UserMouse::moveAway(dialog);
+        UserMouse::click(dialog->findChild<QWidget*>("btncancel"));
+    }
+}
+
+QString PageFixture::path(const QString& relative) const
+{
+    return folder.filePath(relative);
+}

@@ -1,0 +1,42 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "imagedialog.h"
+
+#include <QPointer>
+#include <QTemporaryDir>
+
+class CImageButton;
+class CProgressDialog;
+
+// A page as the main window lays it out, on a window of the same size, and a folder for its files.
+class PageFixture
+{
+public:
+    // Takes the page, puts it into the window and shows it.
+    explicit PageFixture(ImageDialog* page);
+    virtual ~PageFixture();
+    PageFixture(const PageFixture&) = delete;
+    PageFixture& operator=(const PageFixture&) = delete;
+
+    // Clicks one of the page's buttons.
+    void press(const QString& name) const;
+    CImageButton* button(const QString& name) const;
+    // The page's own, which stands apart from it on the screen.
+    CProgressDialog* progress() const;
+    QString progressText() const;
+    int progressValue() const;
+    int progressMaximum() const;
+    // Clicks Stop in the progress dialog.
+    void pressStop() const;
+    // Below the fixture's folder.
+    QString path(const QString& relative) const;
+
+    QTemporaryDir folder;
+    QWidget window;
+
+private:
+    QPointer<ImageDialog> shownPage;
+};
