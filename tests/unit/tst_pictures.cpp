@@ -4,14 +4,9 @@
 #include "testcase.h"
 #include "testmain.h"
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QFile>
 #include <QImage>
-#include <QLineEdit>
 #include <QRegularExpression>
-#include <QTableWidget>
-#include <QVBoxLayout>
 
 #include <cmath>
 
@@ -115,8 +110,6 @@ private slots:
     void pagesHideWhatLiesUnderThem();
     void whiteCaptionsCanBeRead_data();
     void whiteCaptionsCanBeRead();
-    void styleSheetNamesOnlyPicturesThatExist();
-    void styleSheetIsAccepted();
 };
 
 void TstPictures::initTestCase()
@@ -237,40 +230,6 @@ void TstPictures::whiteCaptionsCanBeRead()
         QCOMPARE(qAlpha(image.pixel(x, y)), 255);
         QVERIFY(contrastOfWhite(image.pixelColor(x, y)) >= 3);
     }
-}
-
-void TstPictures::styleSheetNamesOnlyPicturesThatExist()
-{
-    static const QRegularExpression url(R"(url\(([^)]*)\))");
-    QRegularExpressionMatchIterator matches = url.globalMatch(contents(":/qss.qss"));
-    QVERIFY(matches.hasNext());
-    while (matches.hasNext()) {
-        const QString path = matches.next().captured(1);
-        QVERIFY2(QFile::exists(path), qPrintable(path));
-        QVERIFY2(QFile::exists(path + "@2x"), qPrintable(path));
-    }
-}
-
-void TstPictures::styleSheetIsAccepted()
-{
-    QWidget window;
-    auto* layout = new QVBoxLayout(&window);
-    auto* edit = new QLineEdit;
-    auto* check = new QCheckBox;
-    auto* table = new QTableWidget(50, 3);
-    for (QWidget* widget : QList<QWidget*>({edit, check, new QComboBox, table}))
-        layout->addWidget(widget);
-    // A sheet that cannot be parsed ends in a Qt warning, which fails the function.
-    qApp->setStyleSheet(contents(":/qss.qss"));
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    const QImage shown = window.grab().toImage();
-    qApp->setStyleSheet(QString());
-    // A valid sheet that rules nothing would leave the box as the platform draws it.
-    const QPoint middle = check->mapTo(&window, QPoint(8, check->height() / 2));
-    QCOMPARE(shown.pixelColor(middle), QColor(Qt::white));
-    QCOMPARE(shown.pixelColor(edit->mapTo(&window, QPoint(edit->width() / 2, 0))),
-             QColor("#00A0E6"));
 }
 
 KORVEX_TEST_MAIN(TstPictures)
