@@ -5,6 +5,7 @@
 #include "testmain.h"
 
 #include <QFile>
+#include <QHash>
 #include <QImage>
 #include <QRegularExpression>
 
@@ -113,8 +114,11 @@ private slots:
     void initTestCase();
     void everyPictureIsThereAtBothResolutions_data();
     void everyPictureIsThereAtBothResolutions();
+    void noTwoNamesAreOneWhereCaseDoesNotCount();
     void statesAreToldApart_data();
     void statesAreToldApart();
+    void roundMarksAndGlyphsHaveNoGround_data();
+    void roundMarksAndGlyphsHaveNoGround();
     void windowsHaveTransparentCornersAndAnOpaqueMiddle_data();
     void windowsHaveTransparentCornersAndAnOpaqueMiddle();
     void pagesHideWhatLiesUnderThem_data();
@@ -150,6 +154,19 @@ void TstPictures::everyPictureIsThereAtBothResolutions()
     QCOMPARE(fine.devicePixelRatio(), 2.0);
 }
 
+// On a disk that does not tell the case of letters, one of two such files would replace the other.
+void TstPictures::noTwoNamesAreOneWhereCaseDoesNotCount()
+{
+    QHash<QString, QString> seen;
+    for (const Entry& entry : readList()) {
+        for (const QString& path : entry.paths()) {
+            const QString folded = path.toCaseFolded();
+            QVERIFY2(!seen.contains(folded), qPrintable(path + " and " + seen.value(folded)));
+            seen.insert(folded, path);
+        }
+    }
+}
+
 void TstPictures::statesAreToldApart_data()
 {
     QTest::addColumn<QStringList>("paths");
@@ -157,6 +174,9 @@ void TstPictures::statesAreToldApart_data()
         if (entry.states != "-")
             QTest::newRow(qPrintable(entry.name)) << entry.paths();
     }
+    QTest::newRow("radio button") << QStringList({":/nwu/rchecked", ":/nwu/runchecked"});
+    QTest::newRow("check box") << QStringList(
+        {":/nwu/check-on1", ":/nwu/check-part1", ":/nwu/check-off1"});
 }
 
 void TstPictures::statesAreToldApart()
@@ -164,11 +184,39 @@ void TstPictures::statesAreToldApart()
     QFETCH(QStringList, paths);
     for (int i = 0; i < paths.size(); ++i) {
         for (int j = i + 1; j < paths.size(); ++j) {
+            QCOMPARE(load(paths.at(i)).size(), load(paths.at(j)).size());
             const double changed = changedPercent(load(paths.at(i)), load(paths.at(j)));
             QVERIFY2(changed > 2, qPrintable(QString("%1 and %2 differ in %3 % of their pixels")
                                                  .arg(paths.at(i), paths.at(j))
                                                  .arg(changed)));
         }
+    }
+}
+
+void TstPictures::roundMarksAndGlyphsHaveNoGround_data()
+{
+    QTest::addColumn<QString>("path");
+    for (const Entry& entry : readList()) {
+        if (QStringList({"radio", "checkedradio", "lens"}).contains(entry.kind))
+            QTest::newRow(qPrintable(entry.name)) << ":/nwu/" + entry.name;
+    }
+}
+
+void TstPictures::roundMarksAndGlyphsHaveNoGround()
+{
+    QFETCH(QString, path);
+    for (const QString& suffix : QStringList({"", "@2x"})) {
+        const QImage image = load(path + suffix);
+        // What is drawn keeps clear of the edges, which would cut it.
+        const QRect room = image.rect().adjusted(1, 1, -1, -1);
+        int drawn = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                QVERIFY(room.contains(x, y) || qAlpha(image.pixel(x, y)) == 0);
+                drawn += qAlpha(image.pixel(x, y)) == 255 ? 1 : 0;
+            }
+        }
+        QVERIFY(drawn > image.width());
     }
 }
 
@@ -221,7 +269,7 @@ void TstPictures::whiteCaptionsCanBeRead_data()
     QTest::addColumn<QString>("path");
     for (const Entry& entry : readList()) {
         const QStringList paths = entry.paths();
-        if (entry.kind == "primary" || entry.kind == "slate") {
+        if (QStringList({"primary", "quiet", "slate"}).contains(entry.kind)) {
             for (const QString& path : paths)
                 QTest::newRow(qPrintable(path)) << path;
         } else if (entry.kind == "tile") {

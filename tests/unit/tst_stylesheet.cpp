@@ -9,6 +9,8 @@
 #include <QFile>
 #include <QImage>
 #include <QLineEdit>
+#include <QPainter>
+#include <QRadioButton>
 #include <QRegularExpression>
 #include <QTableWidget>
 #include <QVBoxLayout>
@@ -24,7 +26,7 @@ QString contents(const QString& path)
 
 } // namespace
 
-// The application's style sheet.
+// The application's style sheet, and what the pages' own sheets make of its pictures.
 class TstStyleSheet : public TestCase
 {
     Q_OBJECT
@@ -33,6 +35,7 @@ private slots:
     void initTestCase();
     void namesOnlyPicturesThatExist();
     void isAccepted();
+    void showsThePagesRadioMarksInTheirSize();
 };
 
 void TstStyleSheet::initTestCase()
@@ -72,6 +75,29 @@ void TstStyleSheet::isAccepted()
     QCOMPARE(shown.pixelColor(middle), QColor(Qt::white));
     QCOMPARE(shown.pixelColor(edit->mapTo(&window, QPoint(edit->width() / 2, 0))),
              QColor("#00A0E6"));
+}
+
+void TstStyleSheet::showsThePagesRadioMarksInTheirSize()
+{
+    QRadioButton radio;
+    // As the pages set it: the picture alone says how large the mark is.
+    radio.setStyleSheet("QRadioButton::indicator:checked { image: url(:/nwu/rchecked); }"
+                        "QRadioButton::indicator:unchecked { image: url(:/nwu/runchecked); }");
+    QPalette white;
+    white.setColor(QPalette::Window, Qt::white);
+    radio.setPalette(white);
+    radio.resize(60, 20);
+    for (const bool checked : {false, true}) {
+        radio.setChecked(checked);
+        const QImage mark(checked ? ":/nwu/rchecked" : ":/nwu/runchecked");
+        QVERIFY(!mark.isNull());
+        QImage expected(mark.size(), QImage::Format_RGB32);
+        expected.fill(Qt::white);
+        QPainter(&expected).drawImage(0, 0, mark);
+        const QRect place({0, (radio.height() - mark.height()) / 2}, mark.size());
+        const QImage shown = radio.grab().toImage().copy(place);
+        QCOMPARE(shown.convertToFormat(QImage::Format_RGB32), expected);
+    }
 }
 
 KORVEX_TEST_MAIN(TstStyleSheet)
