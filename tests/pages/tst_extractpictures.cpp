@@ -6,26 +6,21 @@
 #include "extractpagefixture.h"
 #include "mainwindow.h"
 #include "modaldriver.h"
+#include "picturetest.h"
 #include "startup.h"
-#include "testcase.h"
 #include "testmain.h"
 #include "usermouse.h"
 #include "util.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QLabel>
-#include <QSet>
 
-// Pictures of the home screen and of the Extract page in each of its states, saved for looking at.
-// Run once for each screen density.
-class TstExtractPictures : public TestCase
+// Pictures of the home screen and of the Extract page in each of its states.
+class TstExtractPictures : public PictureTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void cleanup();
     void homeScreen();
     void homeScreenWithAButtonUnderTheMouse();
     void emptyPageOnTheHomeScreen();
@@ -39,50 +34,8 @@ private slots:
     void refusal();
 
 private:
-    void save(QWidget* widget, const QString& name) const;
     void loadMany(ExtractPageFixture& fixture) const;
 };
-
-void TstExtractPictures::initTestCase()
-{
-    setApplicationLook();
-}
-
-void TstExtractPictures::cleanup()
-{
-    while (QApplication::overrideCursor())
-        QApplication::restoreOverrideCursor();
-    TestCase::cleanup();
-}
-
-// What is shown has its size in device pixels, is no plain area, and cuts no text off.
-void TstExtractPictures::save(QWidget* widget, const QString& name) const
-{
-    QCoreApplication::processEvents();
-    const qreal density = qApp->devicePixelRatio();
-    const QImage picture = widget->grab().toImage();
-    QCOMPARE(picture.size(), widget->size() * density);
-    QSet<QRgb> colours;
-    for (int y = 0; y < picture.height(); y += 3) {
-        for (int x = 0; x < picture.width(); x += 3)
-            colours.insert(picture.pixel(x, y));
-    }
-    QVERIFY2(colours.size() > 20, qPrintable(QString::number(colours.size())));
-    for (const CImageButton* const button : widget->findChildren<CImageButton*>()) {
-        const QRect caption = button->captionRect();
-        // No caption is up to a pixel wide.
-        QVERIFY2(caption.width() <= 1 || button->isHidden() || button->rect().contains(caption),
-                 qPrintable(button->objectName()));
-    }
-    for (const QLabel* const label : widget->findChildren<QLabel*>()) {
-        if (label->isVisible() && !label->wordWrap())
-            QVERIFY2(label->fontMetrics().horizontalAdvance(label->text()) <= label->width(),
-                     qPrintable(label->text()));
-    }
-    const QString folder = QString(KORVEX_SCREENSHOTS "/%1x").arg(qRound(density));
-    QVERIFY(QDir().mkpath(folder));
-    QVERIFY(picture.save(folder + '/' + name + ".png"));
-}
 
 void TstExtractPictures::loadMany(ExtractPageFixture& fixture) const
 {
@@ -182,7 +135,7 @@ void TstExtractPictures::progress()
 void TstExtractPictures::success()
 {
     ModalDriver driver;
-    driver.run("CommDialog", [this](QWidget* dialog) {
+    driver.run("CommDialog", [](QWidget* dialog) {
         save(dialog, "extract-success");
         dialog->close();
     });
@@ -194,7 +147,7 @@ void TstExtractPictures::nothingTicked()
 {
     ExtractPageFixture fixture;
     ModalDriver driver;
-    driver.run("GerneralDialog", [this](QWidget* dialog) {
+    driver.run("GerneralDialog", [](QWidget* dialog) {
         save(dialog, "extract-nothing-ticked");
         dialog->close();
     });
@@ -205,7 +158,7 @@ void TstExtractPictures::nothingTicked()
 void TstExtractPictures::refusal()
 {
     ModalDriver driver;
-    driver.run("CommDialog", [this](QWidget* dialog) {
+    driver.run("CommDialog", [](QWidget* dialog) {
         save(dialog, "refusal");
         dialog->close();
     });

@@ -45,13 +45,18 @@ const char* const radioStyle =
 
 constexpr int columnCount = 5;
 
+void setFontPixels(QWidget* widget, int pixels)
+{
+    QFont font = widget->font();
+    font.setPixelSize(pixels);
+    widget->setFont(font);
+}
+
 QLabel* createLabel(QWidget* parent, const QString& name, int pixels, const QColor& colour)
 {
     QLabel* const label = new QLabel(parent);
     label->setObjectName(name);
-    QFont font = label->font();
-    font.setPixelSize(pixels);
-    label->setFont(font);
+    setFontPixels(label, pixels);
     QPalette palette = label->palette();
     palette.setColor(QPalette::WindowText, colour);
     label->setPalette(palette);
@@ -62,9 +67,7 @@ QRadioButton* createRadioButton(QWidget* parent, const QString& name)
 {
     QRadioButton* const button = new QRadioButton(parent);
     button->setObjectName(name);
-    QFont font = button->font();
-    font.setPixelSize(13);
-    button->setFont(font);
+    setFontPixels(button, 13);
     button->setStyleSheet(radioStyle);
     return button;
 }
@@ -119,6 +122,8 @@ void CPage3::createList()
     list->setObjectName("list");
     list->setGeometry(listRectangle);
     list->setFixedSize(listRectangle.size());
+    setFontPixels(list, 13);
+    list->setIndentation(14);
     list->setStyleSheet(listStyle);
     list->setColumnCount(columnCount);
     for (int column = 0; column < columnCount; ++column)
