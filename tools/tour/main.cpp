@@ -76,10 +76,11 @@ private:
     {
         const User user;
         Album album(options.output);
-        Tour tour{user, album, home};
+        Tour tour{user, album, home, makeSampleImage(home)};
         try {
             tourHome(tour);
             tourExtract(tour);
+            tourCreate(tour);
         } catch (const TourFailure& failure) {
             album.add("failed", user.photograph(), "FAILED: " + failure.reason);
             throw;
@@ -90,6 +91,8 @@ private:
         album.copyPicture("home", options.readmePictures + "/home.png");
         album.copyPicture("extract-ticked", options.readmePictures + "/extract.png");
         album.copyPicture("extract-progress", options.readmePictures + "/extract-progress.png");
+        album.copyPicture("create-filled", options.readmePictures + "/create.png");
+        album.copyPicture("create-progress", options.readmePictures + "/create-progress.png");
     }
 
     Options options;

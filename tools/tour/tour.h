@@ -4,6 +4,7 @@
 #pragma once
 
 #include "album.h"
+#include "sampleimage.h"
 #include "user.h"
 
 // What a tour works with. One function per part of the program, each in a file of its own, called
@@ -15,9 +16,13 @@ struct Tour
     Album& album;
     // The user's home folder: made for the tour, removed after it.
     QString home;
+    // In it.
+    SampleImage sample;
 };
 
 // The home screen, the application menu, the about box. Leaves the home screen.
 void tourHome(Tour& tour);
 // The Extract page with a real image. Leaves the home screen.
 void tourExtract(Tour& tour);
+// The Create page: what the sample image was made of, made into an image. Leaves the home screen.
+void tourCreate(Tour& tour);

@@ -5,11 +5,12 @@
 #include "sevenzipcommand.h"
 #include "slowedtool.h"
 #include "tour.h"
+#include "tour_common.h"
 #include "tourfailure.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QProgressBar>
+#include <QWidget>
 
 namespace
 {
@@ -19,18 +20,6 @@ const char* const page = "CPage2";
 const char* const folder = "Videos";
 const char* const tickedFolder = "Summer";
 const char* const tickedFile = "京都.mp4";
-// From here on there is something to see on the progress bar.
-constexpr int percentToShow = 25;
-constexpr int mostSteps = 100;
-
-// In whatever order.
-void requireSame(QStringList shown, QStringList expected)
-{
-    shown.sort();
-    expected.sort();
-    require(shown == expected,
-            "Shown is " + shown.join(", ") + " instead of " + expected.join(", "));
-}
 
 void openPage(Tour& tour)
 {
@@ -65,9 +54,7 @@ void loadImage(Tour& tour, const SampleImage& sample)
         return button && button->isEnabled();
     });
     const QStringList rows = tour.user.rows();
-    const QStringList originals =
-        QDir(sample.source).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
-    requireSame(rows, originals);
+    requireSame(rows, entryNames(sample.source));
     tour.album.add("extract-loaded", tour.user.photograph(), "The image was listed",
                    {"entries, as in the image's folder: " + rows.join(", ")});
 }
@@ -75,10 +62,8 @@ void loadImage(Tour& tour, const SampleImage& sample)
 void enterAndTick(Tour& tour, const SampleImage& sample)
 {
     tour.user.doubleClickRow(folder);
-    const QStringList originals =
-        QDir(sample.source + '/' + folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
     const QStringList rows = tour.user.rows();
-    requireSame(rows, originals);
+    requireSame(rows, entryNames(sample.source + '/' + folder));
     tour.album.add("extract-folder", tour.user.photograph(),
                    QString("Folder \"%1\" entered by a double click").arg(folder),
                    {"entries, as in the original folder: " + rows.join(", ")});
@@ -92,27 +77,6 @@ void enterAndTick(Tour& tour, const SampleImage& sample)
                    {"ticked: " + ticked.join(", ")});
 }
 
-int shownPercent()
-{
-    const auto* bar = qobject_cast<QProgressBar*>(visibleWidget("CProgressDialog", "progressBar"));
-    return bar ? bar->value() : -1;
-}
-
-void photographProgress(Tour& tour, SlowedTool& archiver)
-{
-    archiver.waitForPause();
-    tour.user.waitForWindow("CProgressDialog");
-    for (int step = 0; tour.user.see(shownPercent) < percentToShow; ++step) {
-        require(step < mostSteps, "The progress bar does not advance.");
-        require(tour.user.see(shownPercent) >= 0, "The progress dialog has gone too early.");
-        archiver.step();
-    }
-    tour.album.add("extract-progress", tour.user.photograph(),
-                   "During the extraction, with the archiver paused for the picture",
-                   {QString("progress: %1%").arg(tour.user.see(shownPercent)),
-                    "text: " + tour.user.texts("CProgressDialog").join(" | ")});
-}
-
 void extract(Tour& tour, const QString& destination)
 {
     tour.user.click(page, "extract");
@@ -124,18 +88,11 @@ void extract(Tour& tour, const QString& destination)
         const QString program = QFileInfo(sevenZipProgram()).canonicalFilePath();
         SlowedTool archiver(QFileInfo(program).fileName());
         tour.user.acceptFileDialog();
-        photographProgress(tour, archiver);
+        photographProgress(tour, archiver, "extract-progress",
+                           "During the extraction, with the archiver paused for the picture");
     }
-    tour.user.waitUntilGone("CProgressDialog");
-    tour.user.waitFor("the success message",
-                      [] { return visibleWidget("CommDialog", "btnok") != nullptr; });
-    const QStringList texts = tour.user.texts("CommDialog");
-    require(texts == QStringList("Extract files successfully."),
-            "The message says " + texts.join(" | "));
-    tour.album.add("extract-success", tour.user.photograph(), "The extraction has ended",
-                   {"message: " + texts.join(" | ")});
-    tour.user.click("CommDialog", "btnok");
-    tour.user.waitUntilGone("CommDialog");
+    closeSuccess(tour, "Extract files successfully.", "extract-success",
+                 "The extraction has ended");
 }
 
 // Everything that was ticked has arrived, nothing else has, and every byte is as it was.
@@ -164,7 +121,7 @@ void compare(Tour& tour, const SampleImage& sample, const QString& destination)
 
 void tourExtract(Tour& tour)
 {
-    const SampleImage sample = makeSampleImage(tour.home);
+    const SampleImage& sample = tour.sample;
     const QString destination = tour.home + "/Extracted";
     require(QDir().mkpath(destination), "The folder cannot be made: " + destination);
     openPage(tour);

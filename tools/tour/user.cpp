@@ -7,11 +7,11 @@
 #include "tourfailure.h"
 #include "usermouse.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QLabel>
 #include <QMenu>
 #include <QSemaphore>
-#include <QTableWidget>
 #include <QThread>
 
 #include <cstdio>
@@ -40,14 +40,17 @@ QAction* menuEntry(const QString& text)
     return nullptr;
 }
 
-QRect rowRectangle(const QString& text)
+// The first cells of the list's rows for which the condition holds, from top to bottom.
+QStringList namesWhere(const std::function<bool(const QModelIndex&)>& condition)
 {
-    const QTableWidget* const table = visibleTable();
-    for (int row = 0; table && row < table->rowCount(); ++row) {
-        if (table->item(row, 0)->text() == text)
-            return table->visualItemRect(table->item(row, 0));
+    QStringList names;
+    const QAbstractItemView* const view = visibleList();
+    for (int row = 0; view && row < view->model()->rowCount(); ++row) {
+        const QModelIndex cell = view->model()->index(row, 0);
+        if (condition(cell))
+            names.append(cell.data().toString());
     }
-    return {};
+    return names;
 }
 
 } // namespace
@@ -75,9 +78,24 @@ QWidget* visibleWidget(const QString& owner, const QString& name)
     return found && found->isVisible() ? found : nullptr;
 }
 
-QTableWidget* visibleTable()
+QAbstractItemView* visibleList()
 {
-    return qobject_cast<QTableWidget*>(visibleWidget("QTableWidget"));
+    for (QWidget* const widget : QApplication::allWidgets()) {
+        auto* const view = qobject_cast<QAbstractItemView*>(widget);
+        if (view && view->objectName() == "list" && view->isVisible())
+            return view;
+    }
+    return nullptr;
+}
+
+QRect rowRectangle(const QString& text)
+{
+    const QAbstractItemView* const view = visibleList();
+    if (!view)
+        return {};
+    const QModelIndexList found = view->model()->match(view->model()->index(0, 0), Qt::DisplayRole,
+                                                       text, 1, Qt::MatchExactly);
+    return found.isEmpty() ? QRect() : view->visualRect(found.first());
 }
 
 // A program that does not come back from an event cannot be ended in good order.
@@ -159,9 +177,8 @@ QStringList User::menuTexts() const
 void User::clickRowAt(const QString& text,
                       const std::function<QPoint(const QRect&)>& position) const
 {
-    require(!see([&] { return rowRectangle(text); }).isNull(), "No row of the table says " + text);
-    clickAt([] { return visibleTable()->viewport(); },
-            [=] { return position(rowRectangle(text)); });
+    require(!see([&] { return rowRectangle(text); }).isNull(), "No row of the list says " + text);
+    clickAt([] { return visibleList()->viewport(); }, [=] { return position(rowRectangle(text)); });
 }
 
 void User::clickRow(const QString& text) const
@@ -179,25 +196,15 @@ void User::clickBoxOfRow(const QString& text) const
 
 QStringList User::rows() const
 {
-    return see([] {
-        QStringList names;
-        const QTableWidget* const table = visibleTable();
-        for (int row = 0; table && row < table->rowCount(); ++row)
-            names.append(table->item(row, 0)->text());
-        return names;
-    });
+    return see([] { return namesWhere([](const QModelIndex&) { return true; }); });
 }
 
 QStringList User::tickedRows() const
 {
     return see([] {
-        QStringList names;
-        const QTableWidget* const table = visibleTable();
-        for (int row = 0; table && row < table->rowCount(); ++row) {
-            if (table->item(row, 0)->checkState() == Qt::Checked)
-                names.append(table->item(row, 0)->text());
-        }
-        return names;
+        return namesWhere([](const QModelIndex& cell) {
+            return cell.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+        });
     });
 }
 

@@ -9,7 +9,7 @@
 
 #include <functional>
 
-class QTableWidget;
+class QAbstractItemView;
 class QWidget;
 
 // The user who sits in front of the program: looks at its windows, clicks and types. Lives beside
@@ -38,7 +38,7 @@ public:
     QStringList menuTexts() const;
     void pressEscape() const;
 
-    // Rows of the visible table, named by the text of their first cell.
+    // Top-level rows of the visible page's list, named by the text of their first cell.
     void doubleClickRow(const QString& text) const;
     void clickRow(const QString& text) const;
     void clickBoxOfRow(const QString& text) const;
@@ -71,5 +71,7 @@ private:
 QWidget* visibleWidget(const QString& className);
 // The same for a widget of this name in the visible widget of that class.
 QWidget* visibleWidget(const QString& owner, const QString& name);
-// The table of the visible page.
-QTableWidget* visibleTable();
+// The list of the visible page.
+QAbstractItemView* visibleList();
+// Where the row's first cell is in the list's viewport; null when there is no such row.
+QRect rowRectangle(const QString& text);

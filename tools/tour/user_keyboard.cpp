@@ -7,13 +7,13 @@
 #include "tourfailure.h"
 #include "user.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCompleter>
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTableWidget>
 #include <QtTest>
 
 namespace
@@ -75,10 +75,8 @@ void User::doubleClickRow(const QString& text) const
 {
     clickRow(text);
     act([=] {
-        const QTableWidget* const table = visibleTable();
-        const QList<QTableWidgetItem*> found = table->findItems(text, Qt::MatchExactly);
-        QWidget* const viewport = table->viewport();
-        const QPoint position = table->visualItemRect(found.first()).center();
+        QWidget* const viewport = visibleList()->viewport();
+        const QPoint position = rowRectangle(text).center();
         QTest::mouseDClick(viewport->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
                            viewport->mapTo(viewport->window(), position));
     });

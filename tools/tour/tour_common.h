@@ -1,0 +1,19 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "tour.h"
+
+class SlowedTool;
+
+// What several pages' tours do in the same way.
+
+// Photographs the progress dialog somewhere in the middle of a paused tool's work.
+void photographProgress(Tour& tour, SlowedTool& tool, const QString& picture, const QString& done);
+// Waits for the success message, photographs it and presses OK. It has to say this.
+void closeSuccess(Tour& tour, const QString& message, const QString& picture, const QString& done);
+// The names of what lies in a folder.
+QStringList entryNames(const QString& folder);
+// Throws unless both hold the same texts, in whatever order.
+void requireSame(QStringList shown, QStringList expected);
