@@ -13,6 +13,11 @@
 void benchListing(const QString& folder);
 // Extraction through the page, against the bare archiver.
 void benchExtract(const QString& folder);
+// Create ISO with everything staged, against the bare authoring tool; how long the window is away
+// while many files are waited for.
+void benchCreate(const QString& folder);
+// What the copy queue copies, against cp, and where the time goes; what asking it costs.
+void benchStaging(const QString& folder);
 // A tool's lines through the runner, against a bare pipe.
 void benchRunner(const QString& folder);
 // From the start of the process to the first picture, and the memory that a large image takes.

@@ -37,6 +37,15 @@ void makeFile(const QString& path, const QByteArray& content)
         giveUp("Cannot be written: " + path);
 }
 
+QByteArray randomBytes(int bytes)
+{
+    QRandomGenerator random(1);
+    QByteArray content(bytes, '\0');
+    auto* const begin = reinterpret_cast<quint32*>(content.data());
+    random.generate(begin, begin + bytes / int(sizeof(quint32)));
+    return content;
+}
+
 QString makeImage(const QString& source, const QString& image)
 {
     runBare(Util::GetCurrentExePath() + "/cdrtools/mkisofs",
@@ -61,6 +70,22 @@ QString makeImageOfNames(const QString& folder, int folders, int filesInEach)
             makeFile(inner + '/' + nameOf(j, random), "x");
     }
     return makeImage(source, image);
+}
+
+QString makeTree(const QString& folder, int folders, int filesInEach, int bytes)
+{
+    const QString tree = QString("%1/tree-%2x%3").arg(folder).arg(folders).arg(filesInEach);
+    if (QFile::exists(tree))
+        return tree;
+    const QByteArray content = randomBytes(bytes);
+    for (int i = 0; i < folders; ++i) {
+        const QString inner = QString("%1/folder %2").arg(tree).arg(i, 3, 10, QChar('0'));
+        QDir().mkpath(inner);
+        for (int j = 0; j < filesInEach; ++j)
+            makeFile(QString("%1/file number %2.txt").arg(inner).arg(j, 3, 10, QChar('0')),
+                     content);
+    }
+    return tree;
 }
 
 QString makeImageOfFiles(const QString& folder, int files, int megabytes)

@@ -13,3 +13,7 @@
 QString makeImageOfNames(const QString& folder, int folders, int filesInEach);
 // Files of so many megabytes of random bytes at the top of the image: 00.bin, 01.bin, …
 QString makeImageOfFiles(const QString& folder, int files, int megabytes);
+
+// A folder of such a number of folders and files, all of the same random bytes; one that is there
+// already is taken as it is. Returns its path.
+QString makeTree(const QString& folder, int folders, int filesInEach, int bytes);

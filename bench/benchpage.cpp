@@ -3,24 +3,16 @@
 
 #include "benchpage.h"
 
-#include "cimagebutton.h"
-#include "cprogressdialog.h"
 #include "sevenzipcommand.h"
 #include "statistics.h"
 
 #include <QApplication>
-#include <QDialogButtonBox>
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QTableWidget>
-#include <QTimer>
 
 BenchPage::BenchPage()
     : CPage2(nullptr)
 {
     InitializeUI();
-    qApp->installEventFilter(this);
 }
 
 double BenchPage::load(const QString& image)
@@ -56,48 +48,14 @@ int BenchPage::rows() const
 
 double BenchPage::extractAll(const QString& destination)
 {
-    outputFolder = destination;
     slotSelectAll(true);
-    extractionTime = 0;
+    dialogs.setPath(destination);
     OnExtract();
-    while (extractionTime == 0)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    return extractionTime;
+    return dialogs.waitForMessage();
 }
 
 void BenchPage::OnExtractFinished()
 {
-    lastArchiverTime = double(extraction.nsecsElapsed()) / 1e6;
+    lastArchiverTime = dialogs.sinceProgress();
     CPage2::OnExtractFinished();
-}
-
-bool BenchPage::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() != QEvent::Show)
-        return false;
-    if (watched->inherits("QFileDialog")) {
-        QTimer::singleShot(0, this, SLOT(answerFileDialog()));
-    } else if (watched->inherits("CProgressDialog")) {
-        extraction.start();
-    } else if (watched->inherits("CommDialog")) {
-        extractionTime = double(extraction.nsecsElapsed()) / 1e6;
-        QTimer::singleShot(0, this, SLOT(answerMessage()));
-    }
-    return false;
-}
-
-void BenchPage::answerFileDialog()
-{
-    const QWidget* const dialog = QApplication::activeModalWidget();
-    dialog->findChild<QLineEdit*>("fileNameEdit")->setText(outputFolder);
-    const auto* box = dialog->findChild<QDialogButtonBox*>("buttonBox");
-    for (QAbstractButton* const button : box->buttons()) {
-        if (box->buttonRole(button) == QDialogButtonBox::AcceptRole)
-            button->click();
-    }
-}
-
-void BenchPage::answerMessage()
-{
-    static_cast<QDialog*>(QApplication::activeModalWidget())->accept();
 }

@@ -3,10 +3,8 @@
 
 #pragma once
 
+#include "benchdialogs.h"
 #include "cpage2.h"
-
-#include <QByteArray>
-#include <QElapsedTimer>
 
 // The Extract page as the measurements drive it: without clicks, its dialogs answered as soon as
 // they show.
@@ -34,18 +32,9 @@ public slots:
     void OnUnzipFinished() override;
     void OnExtractFinished() override;
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
-private slots:
-    void answerFileDialog();
-    void answerMessage();
-
 private:
     bool isLoaded = false;
     double lastViewTime = 0;
-    QString outputFolder;
-    QElapsedTimer extraction;
+    BenchDialogs dialogs;
     double lastArchiverTime = 0;
-    double extractionTime = 0;
 };
