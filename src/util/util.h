@@ -9,6 +9,7 @@
 
 #include <atomic>
 
+class QDataStream;
 class QDateTime;
 class QWidget;
 
@@ -17,8 +18,8 @@ class QWidget;
 extern QString goldUser;
 
 // The static helpers that every page leans on. Declared once, defined by concern: folders, log,
-// files and texts in util/, commands and disk information in exec/, messages and pickers in
-// dialogs/. A definition outside util/ needs that folder's library to link.
+// files and texts in util/, commands and disk information in exec/, boot images in iso/, messages
+// and pickers in dialogs/. A definition outside util/ needs that folder's library to link.
 class Util
 {
 public:
@@ -121,4 +122,22 @@ public:
     // User-interface thread.
     static QIcon GetExtensionIcon(const QString& name);
     static QString GetExtensionString(const QString& name);
+
+    // ---- iso/: boot image (any thread) -----------------------------------------------------
+
+    // Writes the El Torito boot image of the image at isoPath to outPath, a fresh path. True once
+    // the boot catalog is accepted, even when its entry is not bootable or its boot image cannot
+    // be read or written: whether there is a boot image is for the caller to look. Messages go to
+    // the debug stream and to standard output.
+    static bool BootExtract(QString isoPath, QString outPath);
+    // The part of BootExtract() for one 32-byte entry of the boot catalog: copies the boot image
+    // that the entry names from the stream to outPath. Nothing is written for an entry that is not
+    // bootable or whose boot image cannot be read whole.
+    static void ProcessEntry(QString& outPath, QDataStream& stream, unsigned char* entry);
+    // Reads exactly size bytes at byte offset of the stream's device into buffer. 0 for success,
+    // 25 when there is no device or it has no such place, 32 when fewer bytes were read.
+    static int Read(QDataStream& stream, int offset, int size, void* buffer);
+    // Writes size bytes to the start of the file path, made if missing. A longer file keeps its
+    // bytes beyond them. Failures go to the debug stream.
+    static void WriteData(QString& path, void* data, int size);
 };
