@@ -29,9 +29,15 @@ QByteArray outputOf(const QString& tool, const QStringList& arguments)
 
 } // namespace
 
-void makeImage(const QString& folder, const QString& imagePath)
+void makeImage(const QString& folder, const QString& imagePath, const QStringList& options)
 {
-    outputOf("/cdrtools/mkisofs", {"-quiet", "-R", "-o", imagePath, folder});
+    outputOf("/cdrtools/mkisofs",
+             QStringList({"-quiet", "-R"}) + options + QStringList({"-o", imagePath, folder}));
+}
+
+QByteArray extractedFile(const QString& imagePath, const QString& entryPath)
+{
+    return outputOf("/7z/7z", {"e", "-so", imagePath, entryPath});
 }
 
 void writeRandomFile(const QString& path, qint64 bytes, quint32 seed)

@@ -11,9 +11,11 @@
 // Real images for tests, made with the mkisofs that the build has laid beside the test executable,
 // and what the real archiver says of them.
 
-// Makes an image with Rock Ridge names of everything below folder; stops the test run when it
-// cannot.
-void makeImage(const QString& folder, const QString& imagePath);
+// Makes an image with Rock Ridge names of everything below folder, with further options of the
+// authoring tool; stops the test run when it cannot.
+void makeImage(const QString& folder, const QString& imagePath, const QStringList& options = {});
+// The content of one file of an image as the archiver extracts it.
+QByteArray extractedFile(const QString& imagePath, const QString& entryPath);
 // Writes a file of pseudo-random bytes that depend on the seed alone.
 void writeRandomFile(const QString& path, qint64 bytes, quint32 seed);
 // The paths of all entries that the archiver's technical listing names, sorted.
