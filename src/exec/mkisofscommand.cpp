@@ -33,3 +33,17 @@ QStringList mkisofsCreateArguments(BackupType type, const QString& isoPath,
 {
     return {typeFlag(type), "-R", "-r", "-o", isoPath, sourceDir};
 }
+
+QStringList mkisofsSaveArguments(const QString& isoPath, const QString& sourceDir,
+                                 bool withBootImage)
+{
+    QStringList arguments{"-udf", "-R", "-o"};
+    if (withBootImage)
+        arguments += {"-b", bootImageName()};
+    return arguments += {isoPath, sourceDir};
+}
+
+QString bootImageName()
+{
+    return "boot.bin";
+}

@@ -20,3 +20,11 @@ QString mkisofsProgram();
 // Writes the image isoPath with the content of sourceDir as its root.
 QStringList mkisofsCreateArguments(BackupType type, const QString& isoPath,
                                    const QString& sourceDir);
+
+// The same for an image that was edited. With a boot image, its pair of arguments stands between
+// "-o" and the path, where it has always stood.
+QStringList mkisofsSaveArguments(const QString& isoPath, const QString& sourceDir,
+                                 bool withBootImage);
+
+// The name of the boot image, at the root of the image and where it is kept on disk.
+QString bootImageName();

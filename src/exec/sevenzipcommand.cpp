@@ -22,6 +22,16 @@ QStringList sevenZipListArguments(const QString& isoPath)
     return {"l", isoPath};
 }
 
+QStringList sevenZipListUtf8Arguments(const QString& isoPath)
+{
+    return {"-scsUTF-8", "l", isoPath};
+}
+
+QStringList sevenZipExtractAllArguments(const QString& isoPath, const QString& outputDir)
+{
+    return {extractCommand, "-y", "-bb3", "-bsp2", "-o" + outputDir, isoPath};
+}
+
 QStringList sevenZipExtractArguments(const QString& isoPath, const QString& outputDir,
                                      const QStringList& entryPaths)
 {

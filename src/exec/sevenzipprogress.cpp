@@ -31,14 +31,34 @@ std::optional<SevenZipProgress> readLine(const QString& text)
                             withoutControlCharacters(text.mid(entryMarkAt + entryMark.size()))};
 }
 
+std::optional<int> readPercent(const QString& text)
+{
+    const int percentEnd = text.indexOf(percentMark);
+    if (percentEnd <= 0)
+        return std::nullopt;
+    return text.left(percentEnd).trimmed().toInt();
+}
+
+// What the latest state of the line tells that tells anything.
+template<class Reading>
+Reading readLatest(const QString& piece, Reading (*read)(const QString&))
+{
+    const QStringList states = lineStates(piece);
+    for (auto state = states.rbegin(); state != states.rend(); ++state) {
+        if (const Reading reading = read(*state))
+            return reading;
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 std::optional<SevenZipProgress> readSevenZipProgress(const QString& piece)
 {
-    const QStringList states = lineStates(piece);
-    for (auto state = states.rbegin(); state != states.rend(); ++state) {
-        if (const auto progress = readLine(*state))
-            return progress;
-    }
-    return std::nullopt;
+    return readLatest(piece, readLine);
+}
+
+std::optional<int> readSevenZipPercent(const QString& piece)
+{
+    return readLatest(piece, readPercent);
 }

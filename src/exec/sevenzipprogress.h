@@ -20,3 +20,7 @@ struct SevenZipProgress
 // rubs its progress out with backspaces before it writes the next, at its own pace: a piece may end
 // in the middle of that. What counts is the latest state of the line that tells a progress.
 std::optional<SevenZipProgress> readSevenZipProgress(const QString& piece);
+
+// Only the percentage, for which no entry has to be named: what stands before the first "% ", 0
+// when that is no number.
+std::optional<int> readSevenZipPercent(const QString& piece);

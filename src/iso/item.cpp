@@ -47,3 +47,17 @@ void Item::Rename(const QString& newName)
 {
     path = path.left(path.size() - GetName().size()) + newName;
 }
+
+void Item::RenameBranch(const QString& newName)
+{
+    Rename(newName);
+    for (Item& child : children)
+        child.moveBelow(path);
+}
+
+void Item::moveBelow(const QString& folder)
+{
+    path = folder + '/' + GetName();
+    for (Item& child : children)
+        child.moveBelow(path);
+}

@@ -25,6 +25,8 @@ struct Item
     // Replaces the last component of this entry's own path. The paths of the children keep their
     // old beginning: a caller that renames a folder rewrites them itself.
     void Rename(const QString& newName);
+    // The same with the paths of everything below.
+    void RenameBranch(const QString& newName);
 
     // Full path inside the image, "/" between components, none in front; empty for the root.
     QString path;
@@ -38,6 +40,9 @@ struct Item
     qint64 reserved = 0;
     // In insertion order. The list allocates each entry on its own: appending moves none of them.
     QList<Item> children;
+
+private:
+    void moveBelow(const QString& folder);
 };
 
 // The tree's rows carry pointers to the entries they show.

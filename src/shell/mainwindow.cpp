@@ -7,6 +7,7 @@
 #include "cimagebutton.h"
 #include "cpage2.h"
 #include "cpage3.h"
+#include "cpage4.h"
 #include "util.h"
 
 #include <QDesktopServices>
@@ -22,6 +23,7 @@ constexpr int homeStyle = 2;
 constexpr int windowStyle = 3;
 
 const QPoint pagePosition(195, 107);
+const QPoint widePagePosition(3, 107);
 
 } // namespace
 
@@ -156,7 +158,15 @@ void MainWindow::onCreate()
     page->show();
 }
 
-void MainWindow::onEdit() {}
+void MainWindow::onEdit()
+{
+    CPage4* const page = new CPage4(this);
+    page->setParent(this);
+    page->InitializeUI();
+    page->move(widePagePosition);
+    page->SetMoveable(false);
+    page->show();
+}
 
 void MainWindow::onCopy() {}
 

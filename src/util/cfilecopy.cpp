@@ -24,6 +24,8 @@ QMutex& workMutex()
     return mutex;
 }
 
+constexpr int Nothing = -1;
+
 void copyEntry(const QString& source, const QString& destination)
 {
     if (QFileInfo(source).isFile())
@@ -90,6 +92,17 @@ void CFileCopy::ClearAllTasks()
     tasks.clear();
 }
 
+void CFileCopy::ReplaceTasks(QString source, QString destination, int type)
+{
+    const CLocker locker(mutex);
+    tasks.clear();
+    // The end of the task in progress will drop what heads the list.
+    if (taskInProgress)
+        tasks.append({Nothing, QString(), QString()});
+    tasks.append({type, source, destination});
+    condition.wakeOne();
+}
+
 qint64 CFileCopy::GetLeftTaskBytes()
 {
     const CLocker locker(mutex);
@@ -140,12 +153,14 @@ void CFileCopy::run()
         if (tasks.isEmpty())
             return;
         const Task task = tasks.first();
+        taskInProgress = true;
         locker.Unlock();
         {
             const QMutexLocker oneAtATime(&workMutex());
             carryOut(task);
         }
         locker.Lock();
+        taskInProgress = false;
         // Whatever heads the list by now, which need not be the task that was carried out.
         if (!tasks.isEmpty())
             tasks.removeFirst();

@@ -44,6 +44,8 @@ public:
     void RemoveTask(QString source);
     // Drops every task. A task in progress is finished; see RemoveTask().
     void ClearAllTasks();
+    // Drops every task for this one, which is carried out even if a task is in progress.
+    void ReplaceTasks(QString source, QString destination, int type);
 
     // Bytes that are still to be processed: of every queued task, the one in progress included, the
     // size of its source on disk, less what is copied of the current one. Zero or less when nothing
@@ -73,8 +75,9 @@ private:
 
     static void carryOut(const Task& task);
 
-    QMutex mutex; // guards tasks
+    QMutex mutex; // guards the next two
     QList<Task> tasks;
+    bool taskInProgress = false;
     std::atomic<bool> stopped{false};
     QWaitCondition condition;
     quint64 lastTicks = 0;

@@ -49,7 +49,8 @@ void processEventsFor(int milliseconds)
     while (clock.elapsed() < milliseconds);
 }
 
-bool waitForCopies(CFileCopy& queue, CProgressDialog& progress, const QString& text)
+bool waitForCopies(CFileCopy& queue, CProgressDialog& progress, const QString& text,
+                   const char* logTag)
 {
     const qint64 start = measureLeft(queue);
     // What has no bytes is no less to be copied: the size alone would let an empty file be missed.
@@ -66,7 +67,7 @@ bool waitForCopies(CFileCopy& queue, CProgressDialog& progress, const QString& t
         shown = qMax(shown, toBar((start - left) / 1024));
         progress.SetValue(shown);
         processEventsFor(pollMs);
-        qDebug() << "CPage3::OnCreate" << start << left;
+        qDebug() << logTag << start << left;
         left = measureLeft(queue);
     }
     return !queue.IsStopped();

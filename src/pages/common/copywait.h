@@ -15,5 +15,8 @@ void processEventsFor(int milliseconds);
 // The dialog's Stop is the caller's business and does not end the wait. False when the queue was
 // stopped meanwhile, as its page was closed.
 //
+// Every turn is noted in the debug stream behind logTag.
+//
 // queue and progress have to outlive the call, whatever the events do (see PageLifetime).
-bool waitForCopies(CFileCopy& queue, CProgressDialog& progress, const QString& text);
+bool waitForCopies(CFileCopy& queue, CProgressDialog& progress, const QString& text,
+                   const char* logTag = "CPage3::OnCreate");

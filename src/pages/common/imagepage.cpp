@@ -14,6 +14,7 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QTableWidget>
+#include <QVector>
 
 namespace
 {
@@ -94,6 +95,17 @@ QTableWidget* ImagePage::createEntryTable(QPoint position, QSize size)
     return table;
 }
 
+void ImagePage::connectBrowsing()
+{
+    connect(entryTable, SIGNAL(itemDoubleClicked(QTableWidgetItem*)), this,
+            SLOT(OnListViewDoubleClicked()));
+    connect(folderView, SIGNAL(itemClicked(QTreeWidgetItem*, int)), this,
+            SLOT(OnTreeCurrentChanged()));
+    // Return opens a folder of the tree for those who move in it with the arrow keys.
+    connect(folderView, SIGNAL(itemActivated(QTreeWidgetItem*, int)), this,
+            SLOT(OnTreeCurrentChanged()));
+}
+
 void ImagePage::setTableHeaderTexts()
 {
     // The blank in front of " Size" is part of the text.
@@ -113,13 +125,41 @@ void ImagePage::RefreshTable()
     static_cast<SCheckBoxHeaderView*>(entryTable->horizontalHeader())->setChecked(false);
     if (!current)
         return;
-    entryTable->setRowCount(current->children.size());
+    QVector<const Item*> shown;
+    for (const Item& child : qAsConst(current->children)) {
+        if (isShown(child))
+            shown.append(&child);
+    }
+    entryTable->setRowCount(shown.size());
     // One repaint at the end instead of a notice for every cell.
     const QSignalBlocker blocker(entryTable->model());
     int row = 0;
-    for (const Item& child : qAsConst(current->children))
-        fillRow(row++, child);
+    for (const Item* const child : qAsConst(shown))
+        fillRow(row++, *child);
     entryTable->viewport()->update();
+}
+
+bool ImagePage::isShown(const Item&) const
+{
+    return true;
+}
+
+void ImagePage::appendRow(const Item& item)
+{
+    const int row = entryTable->rowCount();
+    entryTable->setRowCount(row + 1);
+    fillRow(row, item);
+}
+
+QTableWidgetItem* ImagePage::tickBesideClick(QTableWidgetItem* cell) const
+{
+    if (!cell || cell->tableWidget() != entryTable)
+        return nullptr;
+    const int row = cell->row();
+    const bool isInRange = row >= 0 && row < entryTable->rowCount();
+    if (!isInRange || entryTable->mapFromGlobal(QCursor::pos()).x() <= TickDelegate::lastPixel)
+        return nullptr;
+    return entryTable->item(row, tickColumn);
 }
 
 void ImagePage::fillRow(int row, const Item& item)
@@ -150,15 +190,21 @@ void ImagePage::LoadFiles(Item* item, QTreeWidget* view, QTreeWidgetItem* parent
     for (Item& child : item->children) {
         if (!child.isDir)
             continue;
-        QTreeWidgetItem* const node = new QTreeWidgetItem({child.GetName()});
+        QTreeWidgetItem* const node = createNode(&child);
         if (view)
             view->addTopLevelItem(node);
         else
             parentNode->addChild(node);
-        node->setIcon(0, folderIcon);
-        node->setData(0, Qt::UserRole, QVariant::fromValue(&child));
         LoadFiles(&child, nullptr, node);
     }
+}
+
+QTreeWidgetItem* ImagePage::createNode(Item* item) const
+{
+    QTreeWidgetItem* const node = new QTreeWidgetItem({item->GetName()});
+    node->setIcon(0, folderIcon);
+    node->setData(0, Qt::UserRole, QVariant::fromValue(item));
+    return node;
 }
 
 QTreeWidgetItem* ImagePage::GetTreeWidgetItemByData(QTreeWidgetItem* node, Item* item) const

@@ -27,7 +27,7 @@ public:
 
     // Builds the page's widgets and connections. Called once, by whoever creates the page.
     virtual void InitializeUI() = 0;
-    // Shows the entries of the current folder. Row r is its child r.
+    // Shows the entries of the current folder that isShown() lets pass.
     virtual void RefreshTable();
     // Adds a node for every folder below item: to view if given, else to parentNode. Nothing
     // happens without item or parentNode.
@@ -53,6 +53,17 @@ protected:
     QTreeWidget* createFolderView(QPoint position, QSize size);
     QTableWidget* createEntryTable(QPoint position, QSize size);
     void setTableHeaderTexts();
+    // Makes the clicks into the two views open folders.
+    void connectBrowsing();
+    // Whether an entry of the current folder gets a row. All do, unless a page filters.
+    virtual bool isShown(const Item& item) const;
+    // Appends a row.
+    void appendRow(const Item& item);
+    // The tick of a row that was clicked beside its tick; null for any other click. The table
+    // toggles itself what is clicked on the tick.
+    QTableWidgetItem* tickBesideClick(QTableWidgetItem* cell) const;
+    // The node of a folder.
+    QTreeWidgetItem* createNode(Item* item) const;
     // Empties tree and views and lists the image at isoPath with these arguments of the archiver.
     void startListing(const QStringList& arguments);
 

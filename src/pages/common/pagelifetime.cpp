@@ -41,5 +41,17 @@ PageLifetime::Step::Step(PageLifetime& pageLifetime)
 PageLifetime::Step::~Step()
 {
     --lifetime.steps;
+    if (lifetime.currentStep == this)
+        lifetime.currentStep = nullptr;
     lifetime.freePageIfIdle();
+}
+
+void PageLifetime::Step::begin()
+{
+    lifetime.currentStep = this;
+}
+
+bool PageLifetime::Step::isCurrent() const
+{
+    return !lifetime.closed && lifetime.currentStep == this;
 }

@@ -24,7 +24,7 @@ public:
     void close();
     bool isClosed() const;
 
-    // While one lives, the page stays.
+    // A step of the page that processes events. While one lives, the page stays.
     class Step
     {
     public:
@@ -32,6 +32,11 @@ public:
         ~Step();
         Step(const Step&) = delete;
         Step& operator=(const Step&) = delete;
+
+        // From now on this is what the page is about, in place of any step that is on its way.
+        void begin();
+        // Whether it still is: the page is open and no other step has begun since.
+        bool isCurrent() const;
 
     private:
         PageLifetime& lifetime;
@@ -44,5 +49,6 @@ private:
     QWidget* page;
     CFileCopy& queue;
     int steps = 0;
+    const Step* currentStep = nullptr;
     bool closed = false;
 };

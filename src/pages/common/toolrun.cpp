@@ -30,6 +30,14 @@ void ToolRun::stop()
     forget();
 }
 
+void ToolRun::stopAndWait()
+{
+    const QPointer<CRunCommandThread> stopped = runner;
+    stop();
+    if (stopped)
+        stopped->wait();
+}
+
 void ToolRun::forget()
 {
     runner = nullptr;

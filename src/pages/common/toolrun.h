@@ -27,6 +27,8 @@ public:
                const QStringList& arguments);
     // Ends the tool in progress, if any; returns at once.
     void stop();
+    // The same, but returns when the tool is gone: half a second with one that does not listen.
+    void stopAndWait();
     // To be told when the end has come.
     void forget();
 

@@ -9,6 +9,7 @@
 #include "cmytreewidget.h"
 #include "cprogressdialog.h"
 #include "nofocusdelegate.h"
+#include "pagebutton.h"
 #include "util.h"
 
 #include <QCloseEvent>
@@ -80,6 +81,7 @@ const QColor softTextColour(0x60, 0x60, 0x60);
 CPage3::CPage3(QWidget* parent)
     : ImageDialog(parent != nullptr)
     , progress(std::make_unique<CProgressDialog>(this))
+    , authoring(*progress)
     , queue(nullptr)
     , stagingFolder(Util::GetTempDir() + "/tmp/")
     , lifetime(this, queue)
@@ -213,17 +215,11 @@ void CPage3::createContextMenu()
 
 void CPage3::updateUI()
 {
-    const auto setUp = [](CImageButton* button, const QString& picture, const QString& caption) {
-        constexpr int buttonStyle = 3;
-        const QString path = ":/nwu/" + picture;
-        button->SetBackGround(path + '1', path + '2', path + '3', QString(), caption, QString(),
-                              buttonStyle);
-    };
-    setUp(addFiles, "addfile", tr("Add Files..."));
-    setUp(addFolders, "adddir", tr("Add Folder..."));
-    setUp(remove, "Remove", tr("Remove"));
-    setUp(create, "Create-IOS", tr("Create ISO"));
-    setUp(back, "Back", tr("Back"));
+    setUpPageButton(addFiles, "addfile", tr("Add Files..."));
+    setUpPageButton(addFolders, "adddir", tr("Add Folder..."));
+    setUpPageButton(remove, "Remove", tr("Remove"));
+    setUpPageButton(create, "Create-IOS", tr("Create ISO"));
+    setUpPageButton(back, "Back", tr("Back"));
     addFilesAction->setText(tr("Add Files(&F)"));
     addFoldersAction->setText(tr("Add Dirs(&D)"));
     removeAction->setText(tr("Remove(&R)"));
@@ -256,7 +252,7 @@ void CPage3::changeEvent(QEvent* event)
 void CPage3::closeEvent(QCloseEvent* event)
 {
     ImageDialog::closeEvent(event);
-    run.stop();
+    authoring.stop();
     lifetime.close();
 }
 

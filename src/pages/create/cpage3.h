@@ -3,12 +3,12 @@
 
 #pragma once
 
+#include "authoringrun.h"
 #include "cfilecopy.h"
 #include "ctree.h"
 #include "imagedialog.h"
 #include "mkisofscommand.h"
 #include "pagelifetime.h"
-#include "toolrun.h"
 
 #include <QFileIconProvider>
 #include <QIcon>
@@ -20,7 +20,6 @@
 class CImageButton;
 class CMyTreeWidget;
 class CProgressDialog;
-class QFileInfo;
 class QLabel;
 class QMenu;
 class QProgressBar;
@@ -82,24 +81,21 @@ private:
     void retranslate();
 
     QTreeWidgetItem* firstSelectedRow() const;
-    QTreeWidgetItem* createRow(const Item& item, const QFileInfo& info) const;
+    QTreeWidgetItem* createRow(const Item& item) const;
+    // With rows for everything below it.
+    QTreeWidgetItem* createBranch(const Item& item) const;
     void addRow(QTreeWidgetItem* row, QTreeWidgetItem* parentRow);
     void addFile(const QString& path, const QString& folder, QTreeWidgetItem* parentRow);
     void addFolder(const QString& path, const QString& folder, QTreeWidgetItem* parentRow);
-    bool waitForStaging();
     std::optional<BackupType> chosenType() const;
 
     std::unique_ptr<CProgressDialog> progress;
-    ToolRun run;
+    AuthoringRun authoring;
     CTree tree;
     CFileCopy queue;
     // Where everything that is added is copied to, with a trailing "/".
     QString stagingFolder;
-    // The image of the last run.
-    QString isoPath;
     PageLifetime lifetime;
-    // Counts the presses of Create ISO: a wait that a newer one has overtaken is given up.
-    int creation = 0;
 
     QFileIconProvider iconProvider;
     QIcon folderIcon;

@@ -6,23 +6,26 @@
 #include "copywait.h"
 #include "cpage3.h"
 #include "cprogressdialog.h"
-#include "debugstreams.h"
 #include "mkisofscommand.h"
-#include "mkisofsprogress.h"
 #include "util.h"
 
-#include <QFileInfo>
 #include <QRadioButton>
 
 void CPage3::OnCreate()
 {
-    const PageLifetime::Step step(lifetime);
+    PageLifetime::Step step(lifetime);
     if (tree.root.children.isEmpty()) {
         Util::ShowError(tr("Please add files or folders first!"));
         return;
     }
     const QString chosen = Util::GetSaveDialog(this, "ISO Files(*.ISO)");
-    if (chosen.isEmpty() || !waitForStaging())
+    if (chosen.isEmpty())
+        return;
+    step.begin();
+    progress->show();
+    // Stop hides the dialog during the wait and no more: the image is written all the same.
+    waitForCopies(queue, *progress, tr("Copy files and folders..."));
+    if (!step.isCurrent())
         return;
     progress->SetText(tr("Creating ISO file..."));
     progress->SetRange(0, 10000);
@@ -32,19 +35,8 @@ void CPage3::OnCreate()
         Util::ShowError(tr("Please select one type"));
         return;
     }
-    isoPath = chosen;
-    run.stop();
-    run.start(this, SLOT(OnCreateOutput(QString)), SLOT(OnCreateFinished()), mkisofsProgram(),
-              mkisofsCreateArguments(*type, isoPath, stagingFolder.chopped(1)));
-}
-
-// Stop hides the dialog during the wait and no more: the image is written all the same.
-bool CPage3::waitForStaging()
-{
-    const int ours = ++creation;
-    progress->show();
-    const bool complete = waitForCopies(queue, *progress, tr("Copy files and folders..."));
-    return complete && ours == creation;
+    authoring.stop();
+    authoring.start(this, chosen, mkisofsCreateArguments(*type, chosen, stagingFolder.chopped(1)));
 }
 
 std::optional<BackupType> CPage3::chosenType() const
@@ -60,25 +52,16 @@ std::optional<BackupType> CPage3::chosenType() const
 
 void CPage3::OnCreateOutput(QString line)
 {
-    qCDebug(toolOutput) << "CPage3::OnCreateOutput" << line;
-    if (run.isLate(sender()))
-        return;
-    if (const auto hundredths = readMkisofsProgress(line))
-        progress->SetValue(*hundredths);
+    authoring.read(sender(), line);
 }
 
 void CPage3::OnCreateFinished()
 {
-    // A Stop that came just before this signal has ended the run already.
-    if (run.isLate(sender()))
-        return;
-    run.forget();
-    progress->hide();
-    Util::ShowOpen(tr("Create ISO successfully!"), QFileInfo(isoPath).absolutePath());
+    authoring.finish(sender(), tr("Create ISO successfully!"));
 }
 
 void CPage3::StopCreate()
 {
-    run.stop();
+    authoring.stop();
     progress->hide();
 }

@@ -4,11 +4,9 @@
 // Collecting what goes into the image: into the tree, the list and the staging folder.
 
 #include "cpage3.h"
-#include "folderlinks.h"
+#include "diskentries.h"
 #include "util.h"
 
-#include <QDateTime>
-#include <QDir>
 #include <QFileInfo>
 #include <QLabel>
 #include <QProgressBar>
@@ -27,18 +25,6 @@ enum Column
 };
 
 constexpr qint64 fullBytes = 5368709120; // 5 GB
-
-Item itemFor(const QFileInfo& info, const QString& path)
-{
-    Item item;
-    item.path = path;
-    item.localPath = info.absoluteFilePath();
-    item.isDir = info.isDir();
-    if (!item.isDir)
-        item.sizeText = QString::number(info.size());
-    item.timeText = Util::QT2String(info.lastModified());
-    return item;
-}
 
 } // namespace
 
@@ -78,10 +64,10 @@ void CPage3::OnAddFile()
 void CPage3::addFile(const QString& path, const QString& folder, QTreeWidgetItem* parentRow)
 {
     const QFileInfo info(path);
-    Item item = itemFor(info, folder + info.fileName());
+    Item item = itemOnDisk(info, folder + info.fileName());
     if (!tree.AddItem(item))
         return;
-    addRow(createRow(item, info), parentRow);
+    addRow(createRow(item), parentRow);
     queue.AddTask(item.localPath, stagingFolder + item.path, CFileCopy::Copy);
 }
 
@@ -107,10 +93,10 @@ void CPage3::OnAddDir()
 void CPage3::addFolder(const QString& path, const QString& folder, QTreeWidgetItem* parentRow)
 {
     const QFileInfo info(path);
-    Item item = itemFor(info, folder + info.fileName());
+    Item item = itemOnDisk(info, folder + info.fileName());
     if (!tree.AddItem(item))
         return;
-    QTreeWidgetItem* const row = createRow(item, info);
+    QTreeWidgetItem* const row = createRow(item);
     addRow(row, parentRow);
     InnerAddDir(tree.GetItem(item.path), item.localPath, row, nullptr);
     // One task for all of it.
@@ -119,17 +105,11 @@ void CPage3::addFolder(const QString& path, const QString& folder, QTreeWidgetIt
 
 void CPage3::InnerAddDir(Item* item, QString folder, QTreeWidgetItem* parentRow, QTreeWidget* view)
 {
+    const int earlier = item->children.size();
+    appendDiskContents(*item, folder);
     QList<QTreeWidgetItem*> rows;
-    const QFileInfoList entries =
-        QDir(folder).entryInfoList(QDir::AllEntries | QDir::NoDotAndDotDot);
-    for (const QFileInfo& info : entries) {
-        item->children.append(itemFor(info, item->path + '/' + info.fileName()));
-        Item& child = item->children.last();
-        QTreeWidgetItem* const row = createRow(child, info);
-        rows.append(row);
-        if (child.isDir && !leadsBack(info))
-            InnerAddDir(&child, child.localPath, row, nullptr);
-    }
+    for (int i = earlier; i < item->children.size(); ++i)
+        rows.append(createBranch(item->children.at(i)));
     // All at once, with everything below them, which spares the list a notice for each.
     if (view)
         view->addTopLevelItems(rows);
@@ -137,7 +117,17 @@ void CPage3::InnerAddDir(Item* item, QString folder, QTreeWidgetItem* parentRow,
         parentRow->addChildren(rows);
 }
 
-QTreeWidgetItem* CPage3::createRow(const Item& item, const QFileInfo& info) const
+QTreeWidgetItem* CPage3::createBranch(const Item& item) const
+{
+    QTreeWidgetItem* const row = createRow(item);
+    QList<QTreeWidgetItem*> rows;
+    for (const Item& child : item.children)
+        rows.append(createBranch(child));
+    row->addChildren(rows);
+    return row;
+}
+
+QTreeWidgetItem* CPage3::createRow(const Item& item) const
 {
     QTreeWidgetItem* const row = new QTreeWidgetItem;
     row->setText(NameColumn, item.GetName());
@@ -148,8 +138,9 @@ QTreeWidgetItem* CPage3::createRow(const Item& item, const QFileInfo& info) cons
         row->setData(NameColumn, Qt::UserRole, 1);
         row->setText(TypeColumn, tr("Folder"));
     } else {
+        const QFileInfo info(item.localPath);
         row->setIcon(NameColumn, iconProvider.icon(info));
-        row->setText(SizeColumn, Util::SizeToString(info.size()));
+        row->setText(SizeColumn, Util::SizeToString(item.sizeText.toLongLong()));
         row->setText(TypeColumn, iconProvider.type(info));
     }
     return row;

@@ -5,7 +5,7 @@
 
 #include "cimagebutton.h"
 #include "cprogressdialog.h"
-#include "tickdelegate.h"
+#include "pagebutton.h"
 #include "util.h"
 
 #include <QDebug>
@@ -90,25 +90,15 @@ void CPage2::connectAll()
             SLOT(OnListContextMenuRequest(QPoint)));
     connect(entryTable, SIGNAL(itemClicked(QTableWidgetItem*)), this,
             SLOT(OnListViewClicked(QTableWidgetItem*)));
-    connect(entryTable, SIGNAL(itemDoubleClicked(QTableWidgetItem*)), this,
-            SLOT(OnListViewDoubleClicked()));
-    connect(folderView, SIGNAL(itemClicked(QTreeWidgetItem*, int)), this,
-            SLOT(OnTreeCurrentChanged()));
-    // Return opens a folder of the tree for those who move in it with the arrow keys.
-    connect(folderView, SIGNAL(itemActivated(QTreeWidgetItem*, int)), this,
-            SLOT(OnTreeCurrentChanged()));
+    connectBrowsing();
     connect(progress.get(), SIGNAL(SigCancel()), this, SLOT(OnStopExtract()));
 }
 
 void CPage2::updateUI()
 {
-    constexpr int buttonStyle = 3;
-    loadIso->SetBackGround(":/nwu/loadiso1", ":/nwu/loadiso2", ":/nwu/loadiso3", QString(),
-                           tr("Load ISO"), QString(), buttonStyle);
-    back->SetBackGround(":/nwu/Back1", ":/nwu/Back2", ":/nwu/Back3", QString(), tr("Back"),
-                        QString(), buttonStyle);
-    extract->SetBackGround(":/nwu/btnextract1", ":/nwu/btnextract2", ":/nwu/btnextract3", QString(),
-                           tr("Extract"), QString(), buttonStyle);
+    setUpPageButton(loadIso, "loadiso", tr("Load ISO"));
+    setUpPageButton(back, "Back", tr("Back"));
+    setUpPageButton(extract, "btnextract", tr("Extract"));
     title->setText(tr("ISO Extract"));
     description->setText(
         tr("Directly extract everything from ISO image file and export to your computer."));
@@ -167,12 +157,7 @@ void CPage2::OnListViewClicked(QTableWidgetItem* cell)
 {
     if (!cell || cell->tableWidget() != entryTable)
         return;
-    const int row = cell->row();
-    if (row < 0 || row >= entryTable->rowCount())
-        return;
-    // The table toggles itself what is clicked on the tick.
-    if (entryTable->mapFromGlobal(QCursor::pos()).x() > TickDelegate::lastPixel) {
-        QTableWidgetItem* const tick = entryTable->item(row, 0);
+    if (QTableWidgetItem* const tick = tickBesideClick(cell)) {
         if (tick->checkState() == Qt::Checked)
             tick->setCheckState(Qt::Unchecked);
         else if (tick->checkState() == Qt::Unchecked)

@@ -1,0 +1,49 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "authoringrun.h"
+
+#include "cprogressdialog.h"
+#include "debugstreams.h"
+#include "mkisofscommand.h"
+#include "mkisofsprogress.h"
+#include "util.h"
+
+#include <QFileInfo>
+
+AuthoringRun::AuthoringRun(CProgressDialog& pageProgress)
+    : progress(pageProgress)
+{
+}
+
+void AuthoringRun::start(QObject* page, const QString& newIsoPath, const QStringList& arguments)
+{
+    isoPath = newIsoPath;
+    run.start(page, SLOT(OnCreateOutput(QString)), SLOT(OnCreateFinished()), mkisofsProgram(),
+              arguments);
+}
+
+void AuthoringRun::stop()
+{
+    run.stop();
+}
+
+// The tag in the debug stream is the Create page's, whichever page it is.
+void AuthoringRun::read(const QObject* sender, const QString& line)
+{
+    qCDebug(toolOutput) << "CPage3::OnCreateOutput" << line;
+    if (run.isLate(sender))
+        return;
+    if (const auto hundredths = readMkisofsProgress(line))
+        progress.SetValue(*hundredths);
+}
+
+void AuthoringRun::finish(const QObject* sender, const QString& message)
+{
+    // A Stop that came just before this signal has ended the run already.
+    if (run.isLate(sender))
+        return;
+    run.forget();
+    progress.hide();
+    Util::ShowOpen(message, QFileInfo(isoPath).absolutePath());
+}
