@@ -71,15 +71,20 @@ QString ExtractPageFixture::toolPath()
     return QCoreApplication::applicationDirPath() + "/7z/7z";
 }
 
-void ExtractPageFixture::setListing(const QStringList& entryLines) const
+QByteArray ExtractPageFixture::listingOf(const QStringList& entryLines)
 {
     const QStringList lines =
         QStringList{"Listing archive: image.iso", "",
                     "   Date      Time    Attr         Size   Compressed  Name", separatorLine()} +
         entryLines +
         QStringList{separatorLine(), entryLine("     ", "3003596", "6 files, 3 folders")};
+    return lines.join('\n').toUtf8() + '\n';
+}
+
+void ExtractPageFixture::setListing(const QStringList& entryLines) const
+{
     const QString listing = path("listing.txt");
-    writeFile(listing, lines.join('\n').toUtf8() + '\n');
+    writeFile(listing, listingOf(entryLines));
     tool.setScript({"file 4096 " + listing});
 }
 

@@ -16,7 +16,9 @@
 //   ignore-term    ignores polite stop requests from here on
 //   child MS       starts a child that holds the output channels open for so long
 //   exit N / crash
+//   only ARGUMENT  the lines that follow are for calls with this argument; alone, for all again
 
+#include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
@@ -167,6 +169,13 @@ void execute(const std::string& line)
         std::abort();
 }
 
+bool isForThisCall(const std::string& only, int count, char* const arguments[])
+{
+    const std::string wanted = only.size() > 5 ? only.substr(5) : "";
+    const auto isWanted = [&wanted](const char* argument) { return wanted == argument; };
+    return wanted.empty() || std::any_of(arguments + 1, arguments + count, isWanted);
+}
+
 void recordCall(const std::string& path, int count, char* const arguments[])
 {
     std::ofstream calls(path, std::ios::binary | std::ios::app);
@@ -182,7 +191,12 @@ int main(int argc, char* argv[])
     const std::string self = argv[0];
     recordCall(self + ".calls", argc, argv);
     std::ifstream script(self + ".script");
-    for (std::string line; std::getline(script, line);)
-        execute(line);
+    bool isMeant = true;
+    for (std::string line; std::getline(script, line);) {
+        if (line.rfind("only", 0) == 0)
+            isMeant = isForThisCall(line, argc, argv);
+        else if (isMeant)
+            execute(line);
+    }
     return 0;
 }

@@ -23,6 +23,7 @@ namespace
 constexpr int buttonRow = 12;
 constexpr int bottomRow = 417;
 constexpr int preparationMs = 10;
+constexpr int searchPixels = 14;
 
 } // namespace
 
@@ -86,6 +87,9 @@ void CPage4::createSearchField()
     search = new CLineEdit(this);
     search->setObjectName("search");
     search->setGeometry(681, buttonRow, 163, 30);
+    QFont font = search->font();
+    font.setPixelSize(searchPixels);
+    search->setFont(font);
     search->setStyleSheet("padding-left:28px;");
     search->SetImage(":/nwu/zoom", ":/nwu/zoom", QString(), {7, 6});
     connect(search, SIGNAL(textChanged(QString)), this, SLOT(OnSearch()));
@@ -167,9 +171,9 @@ void CPage4::SetEnabled(bool enabled)
     }
 }
 
-CFileCopy& CPage4::workQueue()
+bool CPage4::isWorking()
 {
-    return queue;
+    return isUnpacking() || queue.HasTasks();
 }
 
 void CPage4::OnListContextMenuRequest(QPoint)

@@ -42,8 +42,8 @@ public:
     void AddSubDir(Item* item, QString folder, QTreeWidgetItem* node);
     // Re-applies the translatable texts.
     void updateUI();
-    // What changes the work folder and what exports from it.
-    CFileCopy& workQueue();
+    // Whether the work folder is being changed: by unpacking, by the queue, or for an export.
+    bool isWorking();
 
 public slots:
     void OnLoadISO();
