@@ -81,6 +81,7 @@ private:
             tourHome(tour);
             tourExtract(tour);
             tourCreate(tour);
+            tourEdit(tour);
         } catch (const TourFailure& failure) {
             album.add("failed", user.photograph(), "FAILED: " + failure.reason);
             throw;
@@ -93,6 +94,7 @@ private:
         album.copyPicture("extract-progress", options.readmePictures + "/extract-progress.png");
         album.copyPicture("create-filled", options.readmePictures + "/create.png");
         album.copyPicture("create-progress", options.readmePictures + "/create-progress.png");
+        album.copyPicture("edit-changed", options.readmePictures + "/edit.png");
     }
 
     Options options;

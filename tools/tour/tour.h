@@ -26,3 +26,5 @@ void tourHome(Tour& tour);
 void tourExtract(Tour& tour);
 // The Create page: what the sample image was made of, made into an image. Leaves the home screen.
 void tourCreate(Tour& tour);
+// The Edit page: the sample image changed and saved as a new one. Leaves the home screen.
+void tourEdit(Tour& tour);

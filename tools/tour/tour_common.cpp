@@ -3,10 +3,15 @@
 
 #include "tour_common.h"
 
+#include "mkisofscommand.h"
+#include "sevenzipcommand.h"
 #include "slowedtool.h"
+#include "toolenvironment.h"
 #include "tourfailure.h"
 
 #include <QDir>
+#include <QFileInfo>
+#include <QProcess>
 #include <QProgressBar>
 
 namespace
@@ -15,6 +20,7 @@ namespace
 // From here on there is something to see on the progress bar.
 constexpr int percentToShow = 25;
 constexpr int mostSteps = 100;
+constexpr int toolMs = 60000;
 
 int shownPercent()
 {
@@ -36,6 +42,33 @@ void photographProgress(Tour& tour, SlowedTool& tool, const QString& picture, co
     tour.album.add(picture, tour.user.photograph(), done,
                    {QString("progress: %1%").arg(tour.user.see(shownPercent)),
                     "text: " + tour.user.texts("CProgressDialog").join(" | ")});
+}
+
+void acceptAndPhotographAuthoring(Tour& tour, const QString& picture, const QString& done)
+{
+    // A fast machine is done before the user sees anything.
+    const QString program = QFileInfo(mkisofsProgram()).canonicalFilePath();
+    SlowedTool author(QFileInfo(program).fileName());
+    tour.user.acceptFileDialog();
+    photographProgress(tour, author, picture, done);
+}
+
+void compareImage(Tour& tour, const QString& isoPath, const QMap<QString, QString>& expected)
+{
+    const QString folder = isoPath + ".extracted";
+    QProcess archiver;
+    archiver.setProcessEnvironment(toolEnvironment());
+    archiver.start(sevenZipProgram(), {"x", "-o" + folder, isoPath});
+    require(archiver.waitForFinished(toolMs) && archiver.exitStatus() == QProcess::NormalExit &&
+                archiver.exitCode() == 0,
+            "7z cannot extract " + isoPath);
+    const QMap<QString, QString> found = hashesOf(folder);
+    require(!found.isEmpty() && found == expected,
+            "The image holds " + QStringList(found.keys()).join(", "));
+    tour.album.note("The new image extracted with 7z and compared with what belongs in it",
+                    {QString("size of the image: %1 bytes").arg(QFileInfo(isoPath).size()),
+                     QString("%1 files, all equal to their originals by SHA-256, no others")
+                         .arg(found.size())});
 }
 
 void closeSuccess(Tour& tour, const QString& message, const QString& picture, const QString& done)

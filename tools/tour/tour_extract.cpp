@@ -49,10 +49,7 @@ void loadImage(Tour& tour, const SampleImage& sample)
     tour.album.add("extract-open-file", tour.user.photograph(),
                    "Load ISO clicked, the image's path typed", {"path: " + sample.path});
     tour.user.acceptFileDialog();
-    tour.user.waitFor("the image's contents", [] {
-        const QWidget* const button = visibleWidget(page, "loadiso");
-        return button && button->isEnabled();
-    });
+    tour.user.waitForEnabled(page, "loadiso");
     const QStringList rows = tour.user.rows();
     requireSame(rows, entryNames(sample.source));
     tour.album.add("extract-loaded", tour.user.photograph(), "The image was listed",

@@ -150,8 +150,7 @@ void User::movePointerAway() const
 void User::click(const QString& owner, const QString& name) const
 {
     const auto find = [=] { return visibleWidget(owner, name); };
-    waitFor(QString("a button \"%1\" in %2 that can be clicked").arg(name, owner),
-            [=] { return find() && find()->isEnabled(); });
+    waitForEnabled(owner, name);
     clickAt(find, [=] { return find()->rect().center(); });
 }
 
@@ -229,6 +228,14 @@ void User::waitFor(const QString& what, const std::function<bool()>& condition) 
         require(waited < patienceMs, "This did not come: " + what);
         QThread::msleep(lookMs);
     }
+}
+
+void User::waitForEnabled(const QString& owner, const QString& name) const
+{
+    waitFor(QString("a button \"%1\" in %2 that can be clicked").arg(name, owner), [=] {
+        const QWidget* const widget = visibleWidget(owner, name);
+        return widget && widget->isEnabled();
+    });
 }
 
 void User::waitForWindow(const QString& owner) const

@@ -48,12 +48,15 @@ public:
     // Types into the open file dialog and leaves it open.
     void typePath(const QString& path) const;
     void acceptFileDialog() const;
+    // Replaces what the line edit with this name shows.
+    void typeInto(const QString& owner, const QString& name, const QString& text) const;
 
     // Texts of the visible labels in the visible window, page or dialog of this class.
     QStringList texts(const QString& owner) const;
 
     // Waits until the condition, asked on the user-interface thread, holds.
     void waitFor(const QString& what, const std::function<bool()>& condition) const;
+    void waitForEnabled(const QString& owner, const QString& name) const;
     void waitForWindow(const QString& owner) const;
     void waitUntilGone(const QString& owner) const;
 

@@ -24,6 +24,16 @@ QLineEdit* nameLine()
     return qobject_cast<QLineEdit*>(visibleWidget("QFileDialog", "fileNameEdit"));
 }
 
+void typeText(QLineEdit* line, const QString& text)
+{
+    line->setFocus();
+    line->selectAll();
+    QTest::keyClick(line, Qt::Key_Delete);
+    for (const QChar character : text)
+        QTest::sendKeyEvent(QTest::Click, line, Qt::Key_unknown, QString(character),
+                            Qt::NoModifier);
+}
+
 QAbstractButton* acceptButton()
 {
     const auto* box = qobject_cast<QDialogButtonBox*>(visibleWidget("QFileDialog", "buttonBox"));
@@ -42,17 +52,23 @@ void User::typePath(const QString& path) const
 {
     waitFor("a file dialog", [] { return nameLine() && acceptButton(); });
     require(see([&] {
-                QLineEdit* const line = nameLine();
-                line->setFocus();
-                line->selectAll();
-                for (const QChar character : path)
-                    QTest::sendKeyEvent(QTest::Click, line, Qt::Key_unknown, QString(character),
-                                        Qt::NoModifier);
+                typeText(nameLine(), path);
                 // The list of suggestions takes the next click away from the dialog.
-                line->completer()->popup()->hide();
-                return line->text() == path;
+                nameLine()->completer()->popup()->hide();
+                return nameLine()->text() == path;
             }),
             "The file dialog does not take " + path);
+}
+
+void User::typeInto(const QString& owner, const QString& name, const QString& text) const
+{
+    const auto line = [&] { return qobject_cast<QLineEdit*>(visibleWidget(owner, name)); };
+    waitFor(QString("a line edit \"%1\" in %2").arg(name, owner), [&] { return line(); });
+    require(see([&] {
+                typeText(line(), text);
+                return line()->text() == text;
+            }),
+            "The line edit does not take " + text);
 }
 
 void User::acceptFileDialog() const
