@@ -15,6 +15,8 @@ CInputDialog::CInputDialog(QWidget* parent)
     QFont font = lineEdit->font();
     font.setPixelSize(13); // the label's
     lineEdit->setFont(font);
+    // Fonts with Chinese characters have tall lines: without this, their lower edge is cut off.
+    lineEdit->setTextMargins(0, -2, 0, -2);
     textLabel()->setGeometry(40, 60, 340, 25);
     textLabel()->setBuddy(lineEdit);
     CInputDialog::retranslate();
