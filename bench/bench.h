@@ -18,6 +18,8 @@ void benchExtract(const QString& folder);
 void benchCreate(const QString& folder);
 // What the copy queue copies, against cp, and where the time goes; what asking it costs.
 void benchStaging(const QString& folder);
+// Loading into the Edit page and saving from it, against the bare tools; the search.
+void benchEdit(const QString& folder);
 // A tool's lines through the runner, against a bare pipe.
 void benchRunner(const QString& folder);
 // From the start of the process to the first picture, and the memory that a large image takes.

@@ -28,6 +28,11 @@ double BenchDialogs::sinceProgress() const
     return double(clock.nsecsElapsed()) / 1e6;
 }
 
+double BenchDialogs::sinceChoice() const
+{
+    return double(choice.nsecsElapsed()) / 1e6;
+}
+
 bool BenchDialogs::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::Show)
@@ -49,6 +54,7 @@ void BenchDialogs::answerFileDialog()
     const QWidget* const dialog = QApplication::activeModalWidget();
     dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
     const auto* box = dialog->findChild<QDialogButtonBox*>("buttonBox");
+    choice.start();
     for (QAbstractButton* const button : box->buttons()) {
         if (box->buttonRole(button) == QDialogButtonBox::AcceptRole)
             button->click();

@@ -20,6 +20,8 @@ public:
     double waitForMessage();
     // Milliseconds since the progress dialog showed.
     double sinceProgress() const;
+    // Milliseconds since a file dialog got its answer.
+    double sinceChoice() const;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -31,5 +33,6 @@ private slots:
 private:
     QString path;
     QElapsedTimer clock;
+    QElapsedTimer choice;
     double messageTime = 0;
 };

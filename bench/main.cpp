@@ -4,8 +4,9 @@
 // Measures the program against the bare tools it runs, on input made at run time, and prints a
 // table. See README.md beside this file.
 //
-//   korvex-bench [listing] [extract] [create] [staging] [runner] [window]     all of them without a
-//   name
+//   korvex-bench [listing] [extract] [create] [staging] [edit] [runner] [window]
+//
+// All of them without a name.
 
 #include "bench.h"
 #include "startup.h"
@@ -30,7 +31,8 @@ struct Subject
 
 const Subject subjects[] = {
     {"listing", benchListing}, {"extract", benchExtract}, {"create", benchCreate},
-    {"staging", benchStaging}, {"runner", benchRunner},   {"window", benchWindow},
+    {"staging", benchStaging}, {"edit", benchEdit},       {"runner", benchRunner},
+    {"window", benchWindow},
 };
 
 bool isSubject(const QString& name)
