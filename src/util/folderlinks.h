@@ -5,6 +5,7 @@
 
 class QFileInfo;
 
-// Whether an entry is a link to a folder that the link itself lies in, however deep. Whoever walks
-// through folders and follows links passes such a link by, or would never come to an end.
+// Whether an entry is a link to a folder that its path already lies in or passes through, however
+// deep and by whatever links. Whoever walks through folders and follows links passes such a link
+// by, or would never come to an end.
 bool leadsBack(const QFileInfo& entry);
