@@ -19,23 +19,24 @@ namespace
 // One for the whole process, which is why only one copy may run at a time.
 char copyBuffer[4096];
 
-// Removes what dst already holds under the name of source, and source itself. The copy that follows
-// then finds no source and fails: a name that is taken ends a folder copy, nothing is overwritten.
-void dropClash(const QDir& dst, const QFileInfo& source)
+// Removes target and source, which have the same name. The copy that follows then finds no source
+// and fails: a name that is taken ends a folder copy, nothing is overwritten.
+void dropClash(const QString& target, const QFileInfo& source)
 {
-    QFile::remove(dst.absoluteFilePath(source.fileName()));
+    QFile::remove(target);
     Util::RemoveFile(source.absoluteFilePath());
 }
 
 bool copyEntry(const QFileInfo& entry, const QDir& dst)
 {
-    const QString target = dst.absoluteFilePath(entry.fileName());
+    // Put together by hand: QDir takes a name that begins with a colon for an absolute path.
+    const QString target = dst.absolutePath() + '/' + entry.fileName();
     if (leadsBack(entry))
         return QDir().mkpath(target);
     if (entry.isDir())
         return Util::DirCopy(entry.absoluteFilePath(), target);
     if (QFileInfo::exists(target))
-        dropClash(dst, entry);
+        dropClash(target, entry);
     return Util::FileCopy(entry.absoluteFilePath(), target);
 }
 

@@ -21,6 +21,7 @@ private slots:
     void contentsMergeIntoAnExistingFolder();
     void hiddenEntriesAreLeftOut();
     void oddNamesAreCopied();
+    void namesThatBeginWithAColonAreCopied();
     void clashDeletesBothFilesAndEndsWithFalse();
     void clashLeavesWhatComesLaterByNameUncopied();
     void clashDeepInsideEndsTheWholeCopy();
@@ -105,6 +106,23 @@ void TstUtilDirCopy::oddNamesAreCopied()
     QVERIFY(Util::DirCopy(path("src"), path("dst")));
     QCOMPARE(entriesOf(path("dst")), QStringList(name));
     QCOMPARE(readFile(folder->filePath("dst/" + name + '/' + name)), QByteArray("content"));
+}
+
+void TstUtilDirCopy::namesThatBeginWithAColonAreCopied()
+{
+    writeFile(path("src/:"), "1");
+    writeFile(path("src/:a"), "2");
+    writeFile(path("src/:f/:/:b"), "3");
+    writeFile(path("src/z"), "4");
+    QVERIFY(Util::DirCopy(path("src"), path("dst")));
+    QCOMPARE(entriesOf(path("dst")), QStringList({":", ":a", ":f", "z"}));
+    QCOMPARE(readFile(path("dst/:a")), QByteArray("2"));
+    QCOMPARE(readFile(path("dst/:f/:/:b")), QByteArray("3"));
+    QCOMPARE(Util::DirSize(path("src")), qint64(4));
+    // Both sides of a clash go, as with any other name.
+    QVERIFY(!Util::DirCopy(path("src"), path("dst")));
+    QVERIFY(!QFile::exists(path("src/:")));
+    QVERIFY(!QFile::exists(path("dst/:")));
 }
 
 void TstUtilDirCopy::clashDeletesBothFilesAndEndsWithFalse()
