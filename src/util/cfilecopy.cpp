@@ -122,6 +122,7 @@ quint64 CFileCopy::EstimateSeconds()
 {
     const quint64 ticks = quint64(std::clock());
     const qint64 left = GetLeftTaskBytes();
+    const CLocker locker(mutex);
     const quint64 previousTicks = std::exchange(lastTicks, ticks);
     const qint64 previousLeft = std::exchange(lastLeft, left);
     if (ticks == previousTicks)

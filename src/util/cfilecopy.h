@@ -58,7 +58,7 @@ public:
     quint64 EstimateSeconds();
 
     // Lets the worker end after the task in progress, without waiting for it. What has not begun by
-    // then is dropped.
+    // then is dropped, except that a worker which is just waking up for a task still does that one.
     void stop();
     bool IsStopped() const;
 
@@ -75,7 +75,7 @@ private:
 
     static void carryOut(const Task& task);
 
-    QMutex mutex; // guards the next two
+    QMutex mutex; // guards the tasks and what was last estimated
     QList<Task> tasks;
     bool taskInProgress = false;
     std::atomic<bool> stopped{false};
