@@ -15,8 +15,8 @@ private slots:
     void workerRunsFromConstructionOn();
     void stopWhileAsleepEndsTheWorkerAtOnce();
     void stopRightAfterConstructionEndsTheWorker();
-    void stopBeforeTheWorkerFirstSleepsEndsIt_data();
     void stopBeforeTheWorkerFirstSleepsEndsIt();
+    void stopJustBeforeTheWorkerSleepsAgainEndsIt();
     void stopDoesNotWait();
     void stopEndsAfterTheTaskInProgressAndDropsTheRest();
     void ofTasksAddedAfterStopOneAtMostIsCarriedOut();
@@ -33,6 +33,13 @@ namespace
 
 constexpr unsigned long limitMs = 30'000;
 constexpr auto moment = std::chrono::milliseconds(50);
+
+// A moment too short to sleep.
+void spin(int turns)
+{
+    for (volatile int turn = 0; turn < turns;)
+        turn = turn + 1;
+}
 
 } // namespace
 
@@ -73,21 +80,27 @@ void TstCFileCopyStop::stopRightAfterConstructionEndsTheWorker()
     }
 }
 
-void TstCFileCopyStop::stopBeforeTheWorkerFirstSleepsEndsIt_data()
-{
-    QTest::addColumn<int>("turns");
-    for (const int turns : {0, 30, 300, 3000, 30'000})
-        QTest::addRow("after %d turns", turns) << turns;
-}
-
 // At many a moment between the worker's start and its sleep.
 void TstCFileCopyStop::stopBeforeTheWorkerFirstSleepsEndsIt()
 {
-    QFETCH(int, turns);
-    for (int i = 0; i < 200; ++i) {
+    for (int i = 0; i < 500; ++i) {
         CFileCopy queue(nullptr);
-        for (volatile int turn = 0; turn < turns + i;)
-            turn = turn + 1;
+        spin(100 * i);
+        queue.stop();
+        QVERIFY2(queue.wait(limitMs), qPrintable(QString::number(i)));
+    }
+}
+
+// A worker whose last task has just gone is about to sleep.
+void TstCFileCopyStop::stopJustBeforeTheWorkerSleepsAgainEndsIt()
+{
+    constexpr int withoutEffect = 17;
+    for (int i = 0; i < 1000; ++i) {
+        CFileCopy queue(nullptr);
+        queue.AddTask("/a", QString(), withoutEffect);
+        while (queue.HasTasks())
+            continue;
+        spin(i % 100);
         queue.stop();
         QVERIFY2(queue.wait(limitMs), qPrintable(QString::number(i)));
     }
