@@ -298,6 +298,9 @@ void TstCFileCopyTasks::failedTaskIsSilentAndTheNextOneFollows()
     queue.AddTask(path(source), path(destination), type);
     queue.AddTask(path("file2"), path("next"), CFileCopy::Copy);
     QVERIFY(hasEmptied(queue));
+    // A folder that did not give way to a file has lost the permission to enter it.
+    QVERIFY(QFile::setPermissions(path("folder"), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                                      QFileDevice::ExeOwner));
     QCOMPARE(readFile(path("next")), QByteArray("2"));
     QCOMPARE(readFile(path("file")), QByteArray("1"));
     QCOMPARE(readFile(path("folder/file")), QByteArray("3"));
