@@ -17,11 +17,12 @@
 namespace
 {
 
-// Held while a task is carried out, by whichever queue does so.
+// Held while a task is carried out, by whichever queue does so. Never destroyed: the process may
+// end in the middle of a task.
 QMutex& workMutex()
 {
-    static QMutex mutex;
-    return mutex;
+    static QMutex* const mutex = new QMutex;
+    return *mutex;
 }
 
 constexpr int Nothing = -1;

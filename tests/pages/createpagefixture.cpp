@@ -7,6 +7,8 @@
 #include "cimagebutton.h"
 #include "cprogressdialog.h"
 #include "modaldriver.h"
+#include "processcounts.h"
+#include "testfiles.h"
 #include "usermouse.h"
 #include "util.h"
 
@@ -87,6 +89,22 @@ QStringList CreatePageFixture::texts(const QTreeWidgetItem* row)
     return texts;
 }
 
+void CreatePageFixture::addStaged(const QString& name, const QByteArray& content) const
+{
+    writeFile(path(name), content);
+    addFiles({path(name)});
+    QVERIFY(waitUntilStaged());
+}
+
+std::unique_ptr<HeldFolder> CreatePageFixture::addHeld(qint64 bytes) const
+{
+    auto held = std::make_unique<HeldFolder>(path("held"), bytes);
+    addFolder(path("held"));
+    if (!QTest::qWaitFor([&held] { return held->isHolding(); }))
+        qFatal("The copy has not begun");
+    return held;
+}
+
 bool CreatePageFixture::waitUntilStaged(int limitMs) const
 {
     return QTest::qWaitFor([this] { return !page->stagingQueue().HasTasks(); }, limitMs);
@@ -97,6 +115,11 @@ void CreatePageFixture::startCreating(const QString& isoPath) const
     ModalDriver driver;
     driver.typePath(isoPath);
     page->OnCreate();
+}
+
+bool CreatePageFixture::waitForCall(int number) const
+{
+    return QTest::qWaitFor([this, number] { return tool.calls().size() == number; }, 10000);
 }
 
 // The progress dialog is modal as well, so the message is whichever other dialog comes.
@@ -115,6 +138,17 @@ QString CreatePageFixture::waitForMessage(int limitMs) const
     poll.start(20);
     const auto isOver = [&text] { return !text.isNull() && !QApplication::activeModalWidget(); };
     return QTest::qWaitFor(isOver, limitMs) ? text : QString();
+}
+
+bool CreatePageFixture::isToolGone()
+{
+    return childProcesses().isEmpty() && processesOf("scriptedtool").isEmpty();
+}
+
+bool CreatePageFixture::isUsable() const
+{
+    return page->isEnabled() && button("create")->isEnabled() && !progress()->isVisible() &&
+           !QApplication::activeModalWidget() && !QApplication::overrideCursor();
 }
 
 QTreeWidget* CreatePageFixture::list() const

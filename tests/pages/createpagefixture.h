@@ -4,6 +4,7 @@
 #pragma once
 
 #include "cpage3.h"
+#include "heldfolder.h"
 #include "pagefixture.h"
 #include "scriptedcalls.h"
 
@@ -30,13 +31,24 @@ public:
     QTreeWidgetItem* row(const QStringList& names) const;
     // The texts of a row's columns.
     static QStringList texts(const QTreeWidgetItem* row);
+    // Writes a file of this name, adds it and waits until it is in the staging folder.
+    void addStaged(const QString& name, const QByteArray& content = "content") const;
+    // Adds a folder whose copying is held, see HeldFolder, and waits until it is.
+    std::unique_ptr<HeldFolder> addHeld(qint64 bytes) const;
     // Waits until all that was added or removed is in the staging folder.
     bool waitUntilStaged(int limitMs = 30000) const;
 
     // Presses Create ISO and chooses this file: returns once the tool has been started.
     void startCreating(const QString& isoPath) const;
+    // Waits until the tool runs for the so manieth time.
+    bool waitForCall(int number) const;
     // Waits for the message that follows every run, closes it and returns its text.
     QString waitForMessage(int limitMs = 30000) const;
+
+    // Nothing of any tool is left, its children included.
+    static bool isToolGone();
+    // The page takes the user's next wish.
+    bool isUsable() const;
 
     QTreeWidget* list() const;
 

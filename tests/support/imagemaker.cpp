@@ -75,3 +75,8 @@ QMap<QString, QByteArray> hashesBelow(const QString& folder)
     }
     return hashes;
 }
+
+void extractImage(const QString& imagePath, const QString& folder)
+{
+    outputOf("/7z/7z", {"x", "-y", "-bd", "-o" + folder, imagePath});
+}

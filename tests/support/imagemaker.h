@@ -16,6 +16,8 @@
 void makeImage(const QString& folder, const QString& imagePath, const QStringList& options = {});
 // The content of one file of an image as the archiver extracts it.
 QByteArray extractedFile(const QString& imagePath, const QString& entryPath);
+// Extracts everything in an image with the archiver; ends the test run when it fails.
+void extractImage(const QString& imagePath, const QString& folder);
 // Writes a file of pseudo-random bytes that depend on the seed alone.
 void writeRandomFile(const QString& path, qint64 bytes, quint32 seed);
 // The paths of all entries that the archiver's technical listing names, sorted.
