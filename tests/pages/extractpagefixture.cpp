@@ -66,6 +66,18 @@ QStringList ExtractPageFixture::usualEntries()
             fileLine("autorun.inf", 0)};
 }
 
+QStringList ExtractPageFixture::manyEntries()
+{
+    QStringList entries = usualEntries();
+    entries += {folderLine(QString::fromUtf8("文書 と 画像")),
+                folderLine("a folder with a rather long name"),
+                folderLine("a folder with a rather long name/one below it"),
+                fileLine("a file with a rather long name.tar.gz", 734003200)};
+    for (int i = 1; i < 20; ++i)
+        entries.append(fileLine(QString("picture %1.png").arg(i), 12345 * i));
+    return entries;
+}
+
 QString ExtractPageFixture::toolPath()
 {
     return QCoreApplication::applicationDirPath() + "/7z/7z";

@@ -26,6 +26,8 @@ public:
     static QString separatorLine();
     // Folders boot, boot/grub and docs, files inside and beside them.
     static QStringList usualEntries();
+    // More than a page shows at once, with names of every kind.
+    static QStringList manyEntries();
     // A whole listing of such lines, as the archiver prints it.
     static QByteArray listingOf(const QStringList& entryLines);
     static QString toolPath();

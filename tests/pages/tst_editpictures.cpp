@@ -42,14 +42,7 @@ private:
 
 void TstEditPictures::load(EditPageFixture& fixture, const QStringList& unpacking)
 {
-    QStringList entries = ExtractPageFixture::usualEntries();
-    entries += {ExtractPageFixture::folderLine(QString::fromUtf8("文書 と 画像")),
-                ExtractPageFixture::folderLine("a folder with a rather long name"),
-                ExtractPageFixture::folderLine("a folder with a rather long name/one below it"),
-                ExtractPageFixture::fileLine("a file with a rather long name.tar.gz", 734003200)};
-    for (int i = 1; i < 20; ++i)
-        entries.append(ExtractPageFixture::fileLine(QString("picture %1.png").arg(i), 12345 * i));
-    fixture.setArchiver(entries, unpacking);
+    fixture.setArchiver(ExtractPageFixture::manyEntries(), unpacking);
     fixture.startLoading("Holiday 2026.iso");
     QVERIFY(fixture.waitUntilListed());
     UserMouse::moveAway(&fixture.window);

@@ -39,14 +39,7 @@ private:
 
 void TstExtractPictures::loadMany(ExtractPageFixture& fixture) const
 {
-    QStringList entries = ExtractPageFixture::usualEntries();
-    entries += {ExtractPageFixture::folderLine(QString::fromUtf8("文書 と 画像")),
-                ExtractPageFixture::folderLine("a folder with a rather long name"),
-                ExtractPageFixture::folderLine("a folder with a rather long name/one below it"),
-                ExtractPageFixture::fileLine("a file with a rather long name.tar.gz", 734003200)};
-    for (int i = 1; i < 20; ++i)
-        entries.append(ExtractPageFixture::fileLine(QString("picture %1.png").arg(i), 12345 * i));
-    QVERIFY(fixture.load(entries));
+    QVERIFY(fixture.load(ExtractPageFixture::manyEntries()));
     UserMouse::moveAway(&fixture.window);
 }
 
