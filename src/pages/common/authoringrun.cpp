@@ -11,9 +11,23 @@
 
 #include <QFileInfo>
 
+namespace
+{
+
+constexpr int wholeProgress = 10000; // hundredths of a percent
+
+} // namespace
+
 AuthoringRun::AuthoringRun(CProgressDialog& pageProgress)
     : progress(pageProgress)
 {
+}
+
+void AuthoringRun::announce(const QString& text)
+{
+    progress.SetText(text);
+    progress.SetRange(0, wholeProgress);
+    progress.SetValue(0);
 }
 
 void AuthoringRun::start(QObject* page, const QString& newIsoPath, const QStringList& arguments)

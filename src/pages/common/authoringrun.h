@@ -18,6 +18,8 @@ public:
     // The dialog outlives this object.
     explicit AuthoringRun(CProgressDialog& progress);
 
+    // Turns the dialog to the writing, of which text tells; nothing is done yet.
+    void announce(const QString& text);
     // Starts the tool, which is to write isoPath. A run in progress is let go: stop() it first if
     // it shall end.
     void start(QObject* page, const QString& isoPath, const QStringList& arguments);

@@ -5,6 +5,16 @@
 
 #include "cimagebutton.h"
 
+CImageButton* createPageButton(QWidget* page, const QString& name, QPoint position,
+                               const char* slot)
+{
+    CImageButton* const button = new CImageButton(page);
+    button->setObjectName(name);
+    button->move(position);
+    QObject::connect(button, SIGNAL(clicked()), page, slot);
+    return button;
+}
+
 void setUpPageButton(CImageButton* button, const QString& picture, const QString& caption)
 {
     constexpr int style = 3;

@@ -186,20 +186,11 @@ void CPage3::createTypeChoice()
 
 void CPage3::createButtons()
 {
-    addFiles = createButton("addfile", {8, 38}, SLOT(OnAddFile()));
-    addFolders = createButton("adddir", {184, 38}, SLOT(OnAddDir()));
-    remove = createButton("remove", {551, 38}, SLOT(OnRemove()));
-    back = createButton("back", {11, 417}, SLOT(close()));
-    create = createButton("create", {531, 417}, SLOT(OnCreate()));
-}
-
-CImageButton* CPage3::createButton(const QString& name, QPoint position, const char* slot)
-{
-    CImageButton* const button = new CImageButton(this);
-    button->setObjectName(name);
-    button->move(position);
-    connect(button, SIGNAL(clicked()), this, slot);
-    return button;
+    addFiles = createPageButton(this, "addfile", {8, 38}, SLOT(OnAddFile()));
+    addFolders = createPageButton(this, "adddir", {184, 38}, SLOT(OnAddDir()));
+    remove = createPageButton(this, "remove", {551, 38}, SLOT(OnRemove()));
+    back = createPageButton(this, "back", {11, 417}, SLOT(close()));
+    create = createPageButton(this, "create", {531, 417}, SLOT(OnCreate()));
 }
 
 void CPage3::createContextMenu()

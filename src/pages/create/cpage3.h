@@ -76,7 +76,6 @@ private:
     void createGauge();
     void createTypeChoice();
     void createButtons();
-    CImageButton* createButton(const QString& name, QPoint position, const char* slot);
     void createContextMenu();
     void retranslate();
 

@@ -27,9 +27,7 @@ void CPage3::OnCreate()
     waitForCopies(queue, *progress, tr("Copy files and folders..."));
     if (!step.isCurrent())
         return;
-    progress->SetText(tr("Creating ISO file..."));
-    progress->SetRange(0, 10000);
-    progress->SetValue(0);
+    authoring.announce(tr("Creating ISO file..."));
     const auto type = chosenType();
     if (!type) {
         Util::ShowError(tr("Please select one type"));

@@ -63,23 +63,14 @@ void CPage4::InitializeUI()
 
 void CPage4::createButtons()
 {
-    loadIso = createButton("loadiso", {10, buttonRow}, SLOT(OnLoadISO()));
-    add = createButton("add", {101, buttonRow}, SLOT(OnAdd()));
-    exportButton = createButton("export_2", {205, buttonRow}, SLOT(OnExport()));
-    renameButton = createButton("rename", {337, buttonRow}, SLOT(OnRename()));
-    deleteButton = createButton("delete_2", {469, buttonRow}, SLOT(OnDelete()));
-    newButton = createButton("new_2", {573, buttonRow}, SLOT(OnNew()));
-    back = createButton("back", {11, bottomRow}, SLOT(close()));
-    save = createButton("save", {743, bottomRow}, SLOT(OnSave()));
-}
-
-CImageButton* CPage4::createButton(const QString& name, QPoint position, const char* slot)
-{
-    CImageButton* const button = new CImageButton(this);
-    button->setObjectName(name);
-    button->move(position);
-    connect(button, SIGNAL(clicked()), this, slot);
-    return button;
+    loadIso = createPageButton(this, "loadiso", {10, buttonRow}, SLOT(OnLoadISO()));
+    add = createPageButton(this, "add", {101, buttonRow}, SLOT(OnAdd()));
+    exportButton = createPageButton(this, "export_2", {205, buttonRow}, SLOT(OnExport()));
+    renameButton = createPageButton(this, "rename", {337, buttonRow}, SLOT(OnRename()));
+    deleteButton = createPageButton(this, "delete_2", {469, buttonRow}, SLOT(OnDelete()));
+    newButton = createPageButton(this, "new_2", {573, buttonRow}, SLOT(OnNew()));
+    back = createPageButton(this, "back", {11, bottomRow}, SLOT(close()));
+    save = createPageButton(this, "save", {743, bottomRow}, SLOT(OnSave()));
 }
 
 void CPage4::createSearchField()

@@ -86,7 +86,6 @@ private:
     };
 
     void createButtons();
-    CImageButton* createButton(const QString& name, QPoint position, const char* slot);
     void createSearchField();
     void createContextMenu();
     void connectViews();

@@ -32,9 +32,7 @@ void CPage4::OnSave()
     if (!step.isCurrent() || cancelled)
         return;
     qDebug() << "file copy finished!!!";
-    progress->SetText(tr("Saving ISO file..."));
-    progress->SetRange(0, 10000);
-    progress->SetValue(0);
+    authoring.announce(tr("Saving ISO file..."));
     // The boot image that goes into the new image is the one among the program's data.
     const QString bootImage = Util::GetTempDir() + '/' + bootImageName();
     const bool withBootImage = Util::IsFileExists(bootImage);

@@ -52,15 +52,9 @@ void CPage2::InitializeUI()
 
 void CPage2::createButtons()
 {
-    loadIso = new CImageButton(this);
-    loadIso->setObjectName("loadiso");
-    back = new CImageButton(this);
-    back->setObjectName("back");
-    extract = new CImageButton(this);
-    extract->setObjectName("extract");
-    loadIso->move(567, 17);
-    back->move(11, 417);
-    extract->move(546, 417);
+    loadIso = createPageButton(this, "loadiso", {567, 17}, SLOT(OnLoadISO()));
+    back = createPageButton(this, "back", {11, 417}, SLOT(OnBack()));
+    extract = createPageButton(this, "extract", {546, 417}, SLOT(OnExtract()));
 }
 
 void CPage2::createTexts()
@@ -82,9 +76,6 @@ void CPage2::createTexts()
 
 void CPage2::connectAll()
 {
-    connect(loadIso, SIGNAL(clicked()), this, SLOT(OnLoadISO()));
-    connect(back, SIGNAL(clicked()), this, SLOT(OnBack()));
-    connect(extract, SIGNAL(clicked()), this, SLOT(OnExtract()));
     connect(extractAction, SIGNAL(triggered()), this, SLOT(OnExtract()));
     connect(entryTable, SIGNAL(customContextMenuRequested(QPoint)), this,
             SLOT(OnListContextMenuRequest(QPoint)));
