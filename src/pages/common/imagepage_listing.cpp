@@ -21,12 +21,16 @@ void ImagePage::startListing(const QStringList& arguments)
     listingReader.reset();
     tree.Clear();
     tree.name = QFileInfo(isoPath).fileName();
+    listingRun.stop();
     // The listing ends with its second separator, not with the tool.
     listingRun.start(this, SLOT(OnLineOutput(QString)), nullptr, sevenZipProgram(), arguments);
 }
 
 void ImagePage::OnLineOutput(QString line)
 {
+    // Lines of two listings would make no tree.
+    if (listingRun.isLate(sender()))
+        return;
     Item entry;
     switch (listingReader.read(line, entry)) {
     case ListingReader::Line::Entry:

@@ -50,10 +50,12 @@ CPage4::~CPage4()
 void CPage4::InitializeUI()
 {
     qDebug() << "CPage4::InitializeUI() is called!!";
-    createButtons();
+    // In reading order, which Tab follows.
+    createUpperButtons();
     createSearchField();
     folderView = createFolderView({10, 54}, {213, 350});
     entryTable = createEntryTable({223, 54}, {621, 350});
+    createLowerButtons();
     createContextMenu();
     updateUI();
     connectViews();
@@ -61,7 +63,7 @@ void CPage4::InitializeUI()
     connect(&preparation, SIGNAL(timeout()), this, SLOT(unpackWhenClean()));
 }
 
-void CPage4::createButtons()
+void CPage4::createUpperButtons()
 {
     loadIso = createPageButton(this, "loadiso", {10, buttonRow}, SLOT(OnLoadISO()));
     add = createPageButton(this, "add", {101, buttonRow}, SLOT(OnAdd()));
@@ -69,6 +71,10 @@ void CPage4::createButtons()
     renameButton = createPageButton(this, "rename", {337, buttonRow}, SLOT(OnRename()));
     deleteButton = createPageButton(this, "delete_2", {469, buttonRow}, SLOT(OnDelete()));
     newButton = createPageButton(this, "new_2", {573, buttonRow}, SLOT(OnNew()));
+}
+
+void CPage4::createLowerButtons()
+{
     back = createPageButton(this, "back", {11, bottomRow}, SLOT(close()));
     save = createPageButton(this, "save", {743, bottomRow}, SLOT(OnSave()));
 }

@@ -85,7 +85,8 @@ private:
         int type;
     };
 
-    void createButtons();
+    void createUpperButtons();
+    void createLowerButtons();
     void createSearchField();
     void createContextMenu();
     void connectViews();

@@ -9,11 +9,22 @@
 #include "util.h"
 
 #include <QDebug>
+#include <QFileInfo>
 
 namespace
 {
 
 constexpr int pollMs = 200;
+
+// A copy would begin by emptying the file it is to read, or go on without end.
+bool isOntoOrIntoItself(const QString& source, const QString& target)
+{
+    const QFileInfo info(target);
+    const QString from = QFileInfo(source).canonicalFilePath();
+    const QString into = QFileInfo(info.absolutePath()).canonicalFilePath();
+    return !from.isEmpty() &&
+           (info.canonicalFilePath() == from || (into + '/').startsWith(from + '/'));
+}
 
 } // namespace
 
@@ -57,8 +68,11 @@ void CPage4::OnExport()
 void CPage4::queueExport(const Item& item, const QString& folder)
 {
     const QString source = item.localPath.isEmpty() ? workFolder + item.path : item.localPath;
-    const QString destination = item.isDir ? folder : folder + '/' + item.GetName();
-    queue.AddTask(source, destination, CFileCopy::Copy);
+    const QString file = folder + '/' + item.GetName();
+    // A folder keeps the name it has on disk.
+    if (isOntoOrIntoItself(source, item.isDir ? folder + '/' + QFileInfo(source).fileName() : file))
+        return;
+    queue.AddTask(source, item.isDir ? folder : file, CFileCopy::Copy);
 }
 
 // With the progress dialog, the window alive.

@@ -1,0 +1,293 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "editcontentfixture.h"
+#include "processcounts.h"
+#include "startup.h"
+#include "testcase.h"
+#include "testfiles.h"
+#include "testmain.h"
+
+#include <QApplication>
+
+// Unpacking an image in the background on the Edit page, and what is held back meanwhile.
+class TstCPage4Unpack : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void operationsAreCarriedOutAfterwardsInOrder();
+    void operationsAfterwardsGoToTheQueueAtOnce();
+    void secondLoadEndsTheFirstUnpackingAndDropsWhatWasHeldBack();
+    void lateSignalsOfAnEndedUnpackingAreIgnored();
+    void progressLinesAreRead_data();
+    void progressLinesAreRead();
+    void progressOfTheToolIsRead_data();
+    void progressOfTheToolIsRead();
+    void debugLinesTellTheEnd();
+    void workFolderIsEmptyBeforeUnpackingBegins();
+    void longCopyIsFinishedBeforeUnpackingBegins();
+    void failedUnpackingEndsLikeAnother_data();
+    void failedUnpackingEndsLikeAnother();
+    void nextLoadHelpsAgainstAnUnpackingThatHangs();
+    void pageClosedWhileUnpackingIsFreedAndEndsTheTool();
+    void busyCursorIsTakenBackOnce();
+    void thirtyLoadsInARow();
+
+private:
+    QStringList progressLines() const;
+
+    std::unique_ptr<EditContentFixture> fixture;
+};
+
+void TstCPage4Unpack::initTestCase()
+{
+    setApplicationLook();
+}
+
+void TstCPage4Unpack::init()
+{
+    TestCase::init();
+    fixture = std::make_unique<EditContentFixture>();
+}
+
+void TstCPage4Unpack::cleanup()
+{
+    fixture.reset();
+    while (QApplication::overrideCursor())
+        QApplication::restoreOverrideCursor();
+    TestCase::cleanup();
+}
+
+QStringList TstCPage4Unpack::progressLines() const
+{
+    return debugLines().filter("m_ExtractProgress:");
+}
+
+void TstCPage4Unpack::operationsAreCarriedOutAfterwardsInOrder()
+{
+    QVERIFY(fixture->openHalfway());
+    const QString work = fixture->workFolder();
+    fixture->page->AddFileOpTasks(work + "/readme.txt", work + "/1", 2);
+    fixture->page->AddFileOpTasks(work + "/1", work + "/2", 2);
+    fixture->page->AddFileOpTasks(work + "/2", work + "/3", 0);
+    fixture->page->AddFileOpTasks(work + "/2", QString(), 1);
+    QTest::qWait(100);
+    QVERIFY(QFile::exists(work + "/readme.txt"));
+    QVERIFY(fixture->openGate());
+    QVERIFY(fixture->waitUntilWorked());
+    QCOMPARE(entriesOf(work), QStringList({"3", "autorun.inf", "boot", "docs"}));
+    QCOMPARE(readFile(work + "/3"), QByteArray("readme.txt"));
+}
+
+void TstCPage4Unpack::operationsAfterwardsGoToTheQueueAtOnce()
+{
+    QVERIFY(fixture->open());
+    fixture->page->AddFileOpTasks(fixture->workFolder() + "/readme.txt", QString(), 1);
+    QVERIFY(QTest::qWaitFor(
+        [] { return !QFile::exists(EditPageFixture::workFolder() + "/readme.txt"); }));
+}
+
+void TstCPage4Unpack::secondLoadEndsTheFirstUnpackingAndDropsWhatWasHeldBack()
+{
+    QVERIFY(fixture->openHalfway());
+    fixture->add({fixture->makeFile("song.mp3")});
+    fixture->remove({"boot"});
+    QCOMPARE(processesOf("scriptedtool").size(), 1);
+    fixture->setImage({"boot/", "other.txt"});
+    fixture->startLoading("other.iso");
+    QVERIFY(fixture->waitUntilListed());
+    QVERIFY(fixture->waitUntilWorked());
+    QVERIFY(processesOf("scriptedtool").isEmpty());
+    QCOMPARE(debugLines().filter("CPage4::OnExtractFinished() is called!!").size(), 1);
+    EditContentFixture::unpack({"boot/", "other.txt"});
+    fixture->add({fixture->makeFile("tune.mp3")}); // would carry out what is still held back
+    QCOMPARE(fixture->shownNames(), QStringList({"boot", "other.txt", "tune.mp3"}));
+    QCOMPARE(fixture->disagreement(), QString());
+}
+
+// A tool that does not listen goes on for half a second, while the page waits for its end.
+void TstCPage4Unpack::lateSignalsOfAnEndedUnpackingAreIgnored()
+{
+    QStringList talk{"ignore-term"};
+    for (int i = 0; i < 100; ++i)
+        talk += {"err  77% 1 - old\\n", "sleep 40"};
+    fixture->setImage({"a"}, talk);
+    fixture->startLoading();
+    QVERIFY(QTest::qWaitFor([this] { return !progressLines().isEmpty(); }, 10000));
+    fixture->setImage({"b"}, {fixture->gate()});
+    fixture->startLoading();
+    const int told = progressLines().size();
+    QVERIFY(fixture->waitUntilListed());
+    QTest::qWait(300);
+    QCOMPARE(progressLines().size(), told);
+    QVERIFY(fixture->page->isWorking());
+    QVERIFY(fixture->openGate());
+    QVERIFY(fixture->waitUntilWorked());
+}
+
+void TstCPage4Unpack::progressLinesAreRead_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("number") << "42% 7 - boot/kernel"
+                            << "m_ExtractProgress: 42";
+    QTest::newRow("blanks around it") << "  42  % 7"
+                                      << "m_ExtractProgress: 42";
+    QTest::newRow("first mark counts") << "42% 43% "
+                                       << "m_ExtractProgress: 42";
+    QTest::newRow("no number") << "about half% "
+                               << "m_ExtractProgress: 0";
+    QTest::newRow("mark at the begin") << "% 42% "
+                                       << "";
+    QTest::newRow("no blank behind") << "42%"
+                                     << "";
+    QTest::newRow("blank before the mark") << " % "
+                                           << "m_ExtractProgress: 0";
+    QTest::newRow("nothing") << ""
+                             << "";
+    QTest::newRow("name") << "- boot/kernel"
+                          << "";
+}
+
+void TstCPage4Unpack::progressLinesAreRead()
+{
+    QFETCH(QString, line);
+    fixture->page->OnExtractOutput(line);
+    QTEST(progressLines().join('|'), "told");
+}
+
+void TstCPage4Unpack::progressOfTheToolIsRead_data()
+{
+    QTest::addColumn<QString>("script");
+    QTest::newRow("lines") << "err  10% 1 - a\\n 42% 7 - b\\n";
+    QTest::newRow("backspaces") << "err  10% 1 - a\\b\\b\\b\\b\\b\\b\\b\\b\\b\\b          "
+                                   "\\b\\b\\b\\b\\b\\b\\b\\b\\b\\b 42% 7 - b";
+    QTest::newRow("carriage returns") << "err  10% 1 - a\\r 42% 7 - b\\r";
+}
+
+void TstCPage4Unpack::progressOfTheToolIsRead()
+{
+    QFETCH(QString, script);
+    fixture->setImage({"a"}, {script});
+    QVERIFY(fixture->load());
+    QVERIFY(!progressLines().isEmpty());
+    QCOMPARE(progressLines().last(), QString("m_ExtractProgress: 42"));
+}
+
+void TstCPage4Unpack::debugLinesTellTheEnd()
+{
+    QVERIFY(fixture->open());
+    QVERIFY(debugLines().contains("CPage4::OnExtractFinished() is called!!"));
+    QVERIFY(debugLines().contains("CPage4::InitializeUI() is called!!"));
+}
+
+void TstCPage4Unpack::workFolderIsEmptyBeforeUnpackingBegins()
+{
+    QVERIFY(fixture->open());
+    QVERIFY(!entriesOf(fixture->workFolder()).isEmpty());
+    fixture->setImage({"other.txt"}, {fixture->gate()});
+    fixture->startLoading("other.iso");
+    QVERIFY(QTest::qWaitFor([this] { return fixture->archiver.calls().size() == 4; }, 10000));
+    QVERIFY(entriesOf(fixture->workFolder()).isEmpty());
+}
+
+void TstCPage4Unpack::longCopyIsFinishedBeforeUnpackingBegins()
+{
+    QVERIFY(fixture->open());
+    QFile big(fixture->makeFile("big"));
+    QVERIFY(big.open(QIODevice::ReadWrite) && big.resize(400'000'000));
+    fixture->add({big.fileName(), fixture->makeFile("small")});
+    QVERIFY(QTest::qWaitFor([] { return QFile::exists(EditPageFixture::workFolder() + "/big"); }));
+    fixture->setImage({"other.txt"}, {fixture->gate()});
+    fixture->startLoading("other.iso");
+    QVERIFY(QTest::qWaitFor([this] { return fixture->archiver.calls().size() == 4; }, 30000));
+    QVERIFY(entriesOf(fixture->workFolder()).isEmpty());
+    QVERIFY(fixture->openGate());
+    QVERIFY(fixture->waitUntilListed());
+    EditContentFixture::unpack({"other.txt"});
+    QCOMPARE(fixture->disagreement(), QString());
+}
+
+void TstCPage4Unpack::failedUnpackingEndsLikeAnother_data()
+{
+    QTest::addColumn<QStringList>("script");
+    QTest::newRow("nothing") << QStringList();
+    QTest::newRow("failure") << QStringList({"err ERROR: image.iso\\n", "exit 2"});
+    QTest::newRow("crash") << QStringList("crash");
+    QTest::newRow("flood") << QStringList("flood 1");
+}
+
+void TstCPage4Unpack::failedUnpackingEndsLikeAnother()
+{
+    QFETCH(QStringList, script);
+    fixture->setImage(EditContentFixture::usualEntries(), script);
+    fixture->startLoading();
+    QVERIFY(fixture->waitUntilListed());
+    fixture->add({fixture->makeFile("song.mp3")});
+    QVERIFY(fixture->waitUntilWorked());
+    QCOMPARE(entriesOf(fixture->workFolder()), QStringList("song.mp3"));
+    QCOMPARE(debugLines().filter("CPage4::OnExtractFinished() is called!!").size(), 1);
+}
+
+void TstCPage4Unpack::nextLoadHelpsAgainstAnUnpackingThatHangs()
+{
+    fixture->setImage({"a"}, {"ignore-term", "sleep 60000"});
+    fixture->startLoading();
+    QVERIFY(fixture->waitUntilListed());
+    QVERIFY(QTest::qWaitFor([this] { return fixture->archiver.calls().size() == 2; }));
+    QTest::qWait(50);
+    fixture->setImage({"b"});
+    fixture->startLoading();
+    QVERIFY(fixture->waitUntilListed());
+    QVERIFY(fixture->waitUntilWorked(5000));
+    QCOMPARE(fixture->shownNames(), QStringList("b"));
+    QVERIFY(QTest::qWaitFor([] { return processesOf("scriptedtool").isEmpty(); }));
+}
+
+void TstCPage4Unpack::pageClosedWhileUnpackingIsFreedAndEndsTheTool()
+{
+    QVERIFY(fixture->openHalfway());
+    fixture->remove({"boot"});
+    fixture->page->close();
+    QVERIFY(processesOf("scriptedtool").isEmpty());
+    QVERIFY(!QApplication::overrideCursor());
+    QVERIFY(QTest::qWaitFor([this] { return fixture->page.isNull(); }));
+    QVERIFY(QFile::exists(fixture->workFolder() + "/boot/kernel"));
+}
+
+void TstCPage4Unpack::busyCursorIsTakenBackOnce()
+{
+    // Somebody else's, below it.
+    QApplication::setOverrideCursor(Qt::CrossCursor);
+    fixture->archiver.setScript({"sleep 60000"});
+    fixture->startLoading();
+    fixture->setImage({"a"});
+    fixture->startLoading();
+    QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    QVERIFY(fixture->waitUntilListed());
+    QCOMPARE(QApplication::overrideCursor()->shape(), Qt::CrossCursor);
+    fixture->page->close();
+    QVERIFY(QApplication::overrideCursor());
+    QCOMPARE(QApplication::overrideCursor()->shape(), Qt::CrossCursor);
+}
+
+void TstCPage4Unpack::thirtyLoadsInARow()
+{
+    fixture->setImage(EditContentFixture::usualEntries());
+    for (int i = 0; i < 30; ++i)
+        fixture->startLoading();
+    QVERIFY(fixture->waitUntilListed());
+    QVERIFY(fixture->waitUntilWorked());
+    EditContentFixture::unpack(EditContentFixture::usualEntries());
+    QCOMPARE(fixture->disagreement(), QString());
+    QVERIFY(!QApplication::overrideCursor());
+    QVERIFY(QTest::qWaitFor([] { return runnerThreadCount() == 0; }));
+    QVERIFY(childProcesses().isEmpty());
+}
+
+KORVEX_TEST_MAIN(TstCPage4Unpack)
+#include "tst_cpage4_unpack.moc"
