@@ -93,9 +93,9 @@ public:
     // times are not carried over. False when src cannot be read or dst not be opened; a failed
     // write goes unnoticed.
     static bool FileCopy(QString src, QString dst);
-    // Copies the contents of src into dst, links followed; one that leads back to a folder that
-    // holds it becomes an empty folder. A file whose name dst already holds is deleted on both
-    // sides and ends the copy with false.
+    // Copies the contents of src into dst, which may lie within src, links followed; one that leads
+    // back to a folder that holds it becomes an empty folder. A file whose name dst already holds
+    // is deleted on both sides and ends the copy with false.
     static bool DirCopy(const QString& src, const QString& dst);
     // Copies the folder src itself into dst.
     static bool DirCopy2(const QString& src, const QString& dst);

@@ -27,17 +27,37 @@ void dropClash(const QString& target, const QFileInfo& source)
     Util::RemoveFile(source.absoluteFilePath());
 }
 
-bool copyEntry(const QFileInfo& entry, const QDir& dst)
+bool copyContents(const QString& src, const QString& dst, const QString& top);
+
+// top is where the whole copy goes: it may lie within the source, and is no part of it.
+bool copyEntry(const QFileInfo& entry, const QDir& dst, const QString& top)
 {
+    if (entry.isDir() && entry.canonicalFilePath() == top)
+        return true;
     // Put together by hand: QDir takes a name that begins with a colon for an absolute path.
     const QString target = dst.absolutePath() + '/' + entry.fileName();
     if (leadsBack(entry))
         return QDir().mkpath(target);
     if (entry.isDir())
-        return Util::DirCopy(entry.absoluteFilePath(), target);
+        return copyContents(entry.absoluteFilePath(), target, top);
     if (QFileInfo::exists(target))
         dropClash(target, entry);
     return Util::FileCopy(entry.absoluteFilePath(), target);
+}
+
+bool copyContents(const QString& src, const QString& dst, const QString& top)
+{
+    const QDir target(dst);
+    if (!target.exists() && !QDir().mkpath(dst))
+        return false;
+    const QFileInfoList entries = QDir(src).entryInfoList();
+    for (const QFileInfo& entry : entries) {
+        if (entry.fileName() == "." || entry.fileName() == "..")
+            continue;
+        if (!copyEntry(entry, target, top))
+            return false;
+    }
+    return true;
 }
 
 } // namespace
@@ -76,17 +96,9 @@ bool Util::FileCopy(QString src, QString dst)
 
 bool Util::DirCopy(const QString& src, const QString& dst)
 {
-    const QDir target(dst);
-    if (!target.exists() && !QDir().mkpath(dst))
+    if (!QDir().mkpath(dst))
         return false;
-    const QFileInfoList entries = QDir(src).entryInfoList();
-    for (const QFileInfo& entry : entries) {
-        if (entry.fileName() == "." || entry.fileName() == "..")
-            continue;
-        if (!copyEntry(entry, target))
-            return false;
-    }
-    return true;
+    return copyContents(src, dst, QFileInfo(dst).canonicalFilePath());
 }
 
 bool Util::DirCopy2(const QString& src, const QString& dst)

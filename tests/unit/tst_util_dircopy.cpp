@@ -22,6 +22,7 @@ private slots:
     void hiddenEntriesAreLeftOut();
     void oddNamesAreCopied();
     void namesThatBeginWithAColonAreCopied();
+    void destinationWithinTheSourceIsNoPartOfTheCopy();
     void clashDeletesBothFilesAndEndsWithFalse();
     void clashLeavesWhatComesLaterByNameUncopied();
     void clashDeepInsideEndsTheWholeCopy();
@@ -36,7 +37,6 @@ private slots:
     void linkThatLeadsBackFromElsewhereBecomesAnEmptyFolder();
     void linkThatLeadsBackClashingWithAFileEndsWithFalse();
     void brokenLinkIsLeftOut();
-    void folderIntoItselfEndsWithFalse();
     void folderIsCopiedAsSubfolder();
     void folderItselfMergesWithItsNamesake();
     void folderItselfIntoAFileIsFalse();
@@ -263,13 +263,21 @@ void TstUtilDirCopy::brokenLinkIsLeftOut()
     QCOMPARE(entriesOf(path("dst")), QStringList("z"));
 }
 
-// The copy finds itself in the folder it copies, until no path gets longer.
-void TstUtilDirCopy::folderIntoItselfEndsWithFalse()
+// Or the copy would find itself in the folder it copies, until no path gets longer.
+void TstUtilDirCopy::destinationWithinTheSourceIsNoPartOfTheCopy()
 {
-    const QString name(200, 'n');
-    writeFile(folder->filePath(name + "/file"), "1");
-    QVERIFY(!Util::DirCopy2(folder->filePath(name), folder->filePath(name)));
-    QCOMPARE(readFile(folder->filePath(name + "/file")), QByteArray("1"));
+    writeFile(path("a/file"), "1");
+    writeFile(path("a/sub/beside"), "2");
+    QVERIFY(Util::DirCopy2(path("a"), path("a/sub/deep")));
+    QCOMPARE(entriesOf(path("a/sub/deep/a")), QStringList({"file", "sub"}));
+    QCOMPARE(entriesOf(path("a/sub/deep/a/sub")), QStringList({"beside", "deep"}));
+    QVERIFY(entriesOf(path("a/sub/deep/a/sub/deep")).isEmpty());
+    QCOMPARE(readFile(path("a/sub/deep/a/sub/beside")), QByteArray("2"));
+
+    writeFile(path("b/file"), "3");
+    QVERIFY(Util::DirCopy2(path("b"), path("b")));
+    QCOMPARE(entriesOf(path("b")), QStringList({"b", "file"}));
+    QCOMPARE(entriesOf(path("b/b")), QStringList("file"));
 }
 
 void TstUtilDirCopy::folderIsCopiedAsSubfolder()
