@@ -10,6 +10,8 @@
 #include "testfiles.h"
 #include "util.h"
 
+#include <QAbstractButton>
+#include <QMessageBox>
 #include <QtTest>
 
 namespace
@@ -128,6 +130,11 @@ void EditPageFixture::startSaving(const QString& isoPath) const
 {
     ModalDriver driver;
     driver.typePath(isoPath);
+    if (QFile::exists(isoPath)) {
+        driver.run("QMessageBox", [](QWidget* dialog) {
+            static_cast<QMessageBox*>(dialog)->button(QMessageBox::Yes)->click();
+        });
+    }
     page->OnSave();
 }
 

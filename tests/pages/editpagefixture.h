@@ -41,7 +41,7 @@ public:
     void rename(const QString& name, const QString& newName) const;
     // Ticks the entries and deletes them.
     void remove(const QStringList& names) const;
-    // Starts a save to this file: returns once the tool has been started.
+    // Starts a save to this file, over one that is there: returns once the tool has been started.
     void startSaving(const QString& isoPath) const;
 
     QTableWidget* table() const;

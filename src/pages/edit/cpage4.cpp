@@ -150,6 +150,8 @@ void CPage4::closeEvent(QCloseEvent* event)
     // A page that is opened next empties the work folder: nothing may still write to it then.
     unpacking.stopAndWait();
     authoring.stop();
+    // The page itself may take a while to go.
+    progress->hide();
     lifetime.close();
 }
 

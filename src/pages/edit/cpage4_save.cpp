@@ -11,6 +11,14 @@
 
 #include <QDebug>
 
+namespace
+{
+
+// A task of the copy queue that only takes its turn.
+constexpr int nothing = -1;
+
+} // namespace
+
 void CPage4::OnSave()
 {
     PageLifetime::Step step(lifetime);
@@ -57,5 +65,9 @@ void CPage4::StopCreate()
 {
     authoring.stop();
     cancelled = true;
-    queue.ClearAllTasks();
+    // Until the unpacking begins, all that is queued is the emptying of the work folder for it.
+    if (preparation.isActive())
+        return;
+    // The task in progress goes on: what is queued next, a save too, comes after it.
+    queue.ReplaceTasks(QString(), QString(), nothing);
 }

@@ -1,0 +1,176 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "cimagebutton.h"
+#include "cpage3.h"
+#include "editsavefixture.h"
+#include "imagemaker.h"
+#include "mainwindow.h"
+#include "modaldriver.h"
+#include "processcounts.h"
+#include "startup.h"
+#include "testcase.h"
+#include "testfiles.h"
+#include "testmain.h"
+#include "usermouse.h"
+#include "util.h"
+
+#include <QProcess>
+
+#include <csignal>
+
+namespace
+{
+
+const char* const closeArgument = "--close-while-unpacking";
+const QString success = "Save ISO file successfully!";
+
+CImageButton* buttonOf(QWidget* parent, const QString& name)
+{
+    return parent->findChild<CImageButton*>(name, Qt::FindDirectChildrenOnly);
+}
+
+// The Edit page of the program's own window, with an image that is being unpacked.
+CPage4* openAndLoad(MainWindow& window, const QString& image)
+{
+    window.onEdit();
+    CPage4* const page = window.findChildren<CPage4*>().last();
+    ModalDriver driver;
+    driver.typePath(image);
+    page->OnLoadISO();
+    const CImageButton* const load = buttonOf(page, "loadiso");
+    if (!QTest::qWaitFor([load] { return load->isEnabled(); }, 20000))
+        qFatal("not listed");
+    return page;
+}
+
+bool isAlive(int process)
+{
+    return ::kill(process, 0) == 0;
+}
+
+// The program with an image that is being unpacked, whose close button is then clicked.
+int closeWhileUnpacking(int argc, char* argv[])
+{
+    prepareProcess();
+    const QApplication application(argc, argv);
+    MainWindow window(nullptr);
+    window.show();
+    openAndLoad(window, QString::fromLocal8Bit(argv[2]));
+    std::printf("archiver %d\n", EditSaveFixture::putToolToSleep());
+    std::fflush(stdout);
+    UserMouse::click(buttonOf(&window, "close"));
+    return 1; // never reached
+}
+
+} // namespace
+
+// The Edit page left while its image is being unpacked.
+class TstEditLife : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void backAndTheSameImageAgain();
+    void createPageOpenedAtOnceStartsWithAnEmptyFolder();
+    void closeButtonEndsTheProgramAndTheArchiverWithIt_data();
+    void closeButtonEndsTheProgramAndTheArchiverWithIt();
+
+private:
+    QTemporaryDir folder;
+    QString image;
+    QMap<QString, QByteArray> content;
+};
+
+void TstEditLife::initTestCase()
+{
+    setApplicationLook();
+    const QString tree = folder.filePath("tree");
+    for (int i = 0; i < 40; ++i)
+        writeRandomFile(tree + QString("/folder %1/some.bin").arg(i), 5'000'000, quint32(i));
+    image = folder.filePath("image.iso");
+    makeImage(tree, image);
+    content = hashesBelow(tree);
+}
+
+void TstEditLife::backAndTheSameImageAgain()
+{
+    QPointer<CPage4> first;
+    {
+        const EditSaveFixture left;
+        first = left.page;
+        QVERIFY(left.browse(image));
+        EditSaveFixture::putToolToSleep();
+        QVERIFY(left.page->isWorking());
+        left.press("back");
+        QVERIFY(childProcesses().isEmpty());
+        const EditSaveFixture fixture;
+        QVERIFY(fixture.browse(image));
+        QCOMPARE(fixture.save(folder.filePath("saved.iso")), success);
+        QVERIFY(!first);
+    }
+    QVERIFY(EditSaveFixture::contentOf(folder.filePath("saved.iso")) == content);
+}
+
+void TstEditLife::createPageOpenedAtOnceStartsWithAnEmptyFolder()
+{
+    MainWindow window(nullptr);
+    window.show();
+    const QPointer<CPage4> page = openAndLoad(window, image);
+    EditSaveFixture::putToolToSleep();
+    QVERIFY(page->isWorking());
+    UserMouse::click(buttonOf(page, "back"));
+    window.onCreate();
+    CPage3* const next = window.findChildren<CPage3*>().last();
+    QVERIFY(QTest::qWaitFor([&] { return !page && !next->stagingQueue().HasTasks(); }, 20000));
+    QVERIFY(childProcesses().isEmpty());
+    QTest::qWait(300);
+    QCOMPARE(entriesOf(Util::GetTempDir() + "/tmp"), QStringList());
+}
+
+void TstEditLife::closeButtonEndsTheProgramAndTheArchiverWithIt_data()
+{
+    QTest::addColumn<bool>("isGoneBefore");
+    QTest::newRow("before the next load") << true;
+    QTest::newRow("during the next load") << false;
+}
+
+// Nobody reads what the archiver writes any more, so that it ends with the next line it writes.
+void TstEditLife::closeButtonEndsTheProgramAndTheArchiverWithIt()
+{
+    QProcess program;
+    program.start(QCoreApplication::applicationFilePath(), {closeArgument, image});
+    QVERIFY2(program.waitForFinished(30000), program.readAllStandardError());
+    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program.exitCode(), 0);
+    const QByteArray printed = program.readAllStandardOutput();
+    const int archiver = printed.mid(printed.indexOf("archiver ") + 9).trimmed().toInt();
+    QVERIFY2(archiver > 0, printed);
+    QVERIFY(isAlive(archiver));
+
+    QFETCH(bool, isGoneBefore);
+    const auto isGone = [archiver] { return !isAlive(archiver); };
+    if (isGoneBefore) {
+        ::kill(archiver, SIGCONT);
+        QVERIFY(QTest::qWaitFor(isGone, 20000));
+        const int files = hashesBelow(EditPageFixture::workFolder()).size();
+        QVERIFY2(files > 0 && files < content.size(), "it went on to its end");
+    }
+    const EditSaveFixture fixture;
+    QVERIFY(fixture.browse(image));
+    if (!isGoneBefore)
+        ::kill(archiver, SIGCONT);
+    QVERIFY(QTest::qWaitFor(isGone, 20000));
+    QVERIFY(fixture.waitUntilWorked());
+    QVERIFY(hashesBelow(EditPageFixture::workFolder()) == content);
+}
+
+int main(int argc, char* argv[])
+{
+    if (argc == 3 && qstrcmp(argv[1], closeArgument) == 0)
+        return closeWhileUnpacking(argc, argv);
+    return runTests<TstEditLife>(argc, argv);
+}
+
+#include "tst_editlife.moc"

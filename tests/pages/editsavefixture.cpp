@@ -1,0 +1,143 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "editsavefixture.h"
+
+#include "cimagebutton.h"
+#include "cprogressdialog.h"
+#include "imagemaker.h"
+#include "modaldriver.h"
+#include "processcounts.h"
+#include "testfiles.h"
+#include "trigger.h"
+#include "usermouse.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QTimer>
+#include <QtTest>
+
+#include <csignal>
+
+namespace
+{
+
+void collectPaths(const Item& folder, QStringList& paths)
+{
+    for (const Item& child : folder.children) {
+        paths.append(child.path);
+        collectPaths(child, paths);
+    }
+}
+
+} // namespace
+
+void EditSaveFixture::startLoadingImage(const QString& imagePath) const
+{
+    ModalDriver driver;
+    driver.typePath(imagePath);
+    page->OnLoadISO();
+}
+
+bool EditSaveFixture::browse(const QString& imagePath) const
+{
+    startLoadingImage(imagePath);
+    return waitUntilListed();
+}
+
+void EditSaveFixture::openRoot() const
+{
+    tree()->setCurrentItem(tree()->topLevelItem(0));
+    page->OnTreeCurrentChanged();
+}
+
+std::unique_ptr<HeldFolder> EditSaveFixture::addHeld(qint64 bytes) const
+{
+    auto held = std::make_unique<HeldFolder>(path("held"), bytes);
+    add({path("held")});
+    if (!QTest::qWaitFor([&held] { return held->isHolding(); }))
+        qFatal("The copy has not begun");
+    return held;
+}
+
+bool EditSaveFixture::waitForCall(int number) const
+{
+    return QTest::qWaitFor([this, number] { return author.calls().size() == number; }, 10000);
+}
+
+// The progress dialog is modal as well, so the message is whichever other dialog comes.
+QString EditSaveFixture::waitForMessage(int limitMs) const
+{
+    QString text;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, [&text] {
+        QWidget* const dialog = QApplication::activeModalWidget();
+        if (!dialog || qobject_cast<CProgressDialog*>(dialog))
+            return;
+        text = dialog->findChild<QLabel*>("label")->text();
+        UserMouse::moveAway(dialog);
+        UserMouse::click(dialog->findChild<QWidget*>("btnok"));
+    });
+    poll.start(20);
+    const auto isOver = [&text] { return !text.isNull() && !QApplication::activeModalWidget(); };
+    return QTest::qWaitFor(isOver, limitMs) ? text : QString();
+}
+
+QString EditSaveFixture::save(const QString& isoPath) const
+{
+    startSaving(isoPath);
+    return waitForMessage();
+}
+
+bool EditSaveFixture::saveAnd(const QString& isoPath, const std::function<bool()>& condition,
+                              const std::function<void()>& action) const
+{
+    const Trigger trigger(condition, action);
+    startSaving(isoPath);
+    return trigger.hasFired();
+}
+
+bool EditSaveFixture::isShowing(const QString& text) const
+{
+    return progress() && progress()->isVisible() && progressText() == text;
+}
+
+bool EditSaveFixture::areToolsGone()
+{
+    return childProcesses().isEmpty() && processesOf("scriptedtool").isEmpty() &&
+           runnerThreadCount() == 0;
+}
+
+int EditSaveFixture::putToolToSleep()
+{
+    const auto isUnderWay = [] {
+        return childProcesses().size() == 1 && !entriesOf(workFolder()).isEmpty();
+    };
+    if (!QTest::qWaitFor(isUnderWay, 20000))
+        qFatal("no tool to put to sleep");
+    const int tool = int(childProcesses().first());
+    ::kill(tool, SIGSTOP);
+    return tool;
+}
+
+bool EditSaveFixture::isUsable() const
+{
+    return page->isEnabled() && button("save")->isEnabled() && button("loadiso")->isEnabled() &&
+           !progress()->isVisible() && !QApplication::activeModalWidget() &&
+           !QApplication::overrideCursor();
+}
+
+QStringList EditSaveFixture::allPaths() const
+{
+    QStringList paths;
+    collectPaths(*tree()->topLevelItem(0)->data(0, Qt::UserRole).value<Item*>(), paths);
+    paths.sort();
+    return paths;
+}
+
+QMap<QString, QByteArray> EditSaveFixture::contentOf(const QString& imagePath)
+{
+    const QTemporaryDir extracted;
+    extractImage(imagePath, extracted.path());
+    return hashesBelow(extracted.path());
+}

@@ -1,0 +1,51 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "editpagefixture.h"
+#include "heldfolder.h"
+
+#include <QMap>
+
+#include <functional>
+#include <memory>
+
+// The Edit page up to the saved image, with stand-in tools or the real ones.
+class EditSaveFixture : public EditPageFixture
+{
+public:
+    // Presses Load ISO and chooses this image. Ends the event loop's turn with the unpacking ahead.
+    void startLoadingImage(const QString& imagePath) const;
+    // The same until the image can be browsed and changed.
+    bool browse(const QString& imagePath) const;
+    // Shows the entries of the topmost folder.
+    void openRoot() const;
+    // Adds a folder whose copying is held, see HeldFolder, and waits until it is.
+    std::unique_ptr<HeldFolder> addHeld(qint64 bytes) const;
+
+    // Waits until the authoring tool runs for the so manieth time.
+    bool waitForCall(int number) const;
+    // Waits for the message that follows every run, closes it and returns its text.
+    QString waitForMessage(int limitMs = 60000) const;
+    // A save to this file, from the button to the message; returns the message.
+    QString save(const QString& isoPath) const;
+    // A save to this file during which action is done as soon as the condition holds. Returns when
+    // the tool has been started or the save has ended without it; whether the action was done.
+    bool saveAnd(const QString& isoPath, const std::function<bool()>& condition,
+                 const std::function<void()>& action) const;
+    // The progress dialog shows, saying this.
+    bool isShowing(const QString& text) const;
+
+    // No process is left that the page has started, nor any started by one.
+    static bool areToolsGone();
+    // Puts the one tool that runs to sleep once there is something in the work folder; returns its
+    // process number.
+    static int putToolToSleep();
+    // The page takes the user's next wish.
+    bool isUsable() const;
+    // The paths of all entries below the root, sorted.
+    QStringList allPaths() const;
+    // What the archiver extracts from an image, see hashesBelow().
+    static QMap<QString, QByteArray> contentOf(const QString& imagePath);
+};
