@@ -12,6 +12,7 @@
 #include "testcase.h"
 #include "testfiles.h"
 #include "testmain.h"
+#include "toolstopper.h"
 #include "usermouse.h"
 #include "util.h"
 
@@ -44,6 +45,11 @@ CPage4* openAndLoad(MainWindow& window, const QString& image)
     return page;
 }
 
+bool isUnpackedInPart()
+{
+    return !entriesOf(EditPageFixture::workFolder()).isEmpty();
+}
+
 bool isAlive(int process)
 {
     return ::kill(process, 0) == 0;
@@ -56,8 +62,9 @@ int closeWhileUnpacking(int argc, char* argv[])
     const QApplication application(argc, argv);
     MainWindow window(nullptr);
     window.show();
+    ToolStopper archiver("x");
     openAndLoad(window, QString::fromLocal8Bit(argv[2]));
-    std::printf("archiver %d\n", EditSaveFixture::putToolToSleep());
+    std::printf("archiver %d\n", archiver.catchWhen(isUnpackedInPart));
     std::fflush(stdout);
     UserMouse::click(buttonOf(&window, "close"));
     return 1; // never reached
@@ -100,8 +107,7 @@ void TstEditLife::backAndTheSameImageAgain()
     {
         const EditSaveFixture left;
         first = left.page;
-        QVERIFY(left.browse(image));
-        EditSaveFixture::putToolToSleep();
+        left.browseWhileUnpacking(image);
         QVERIFY(left.page->isWorking());
         left.press("back");
         QVERIFY(childProcesses().isEmpty());
@@ -117,8 +123,9 @@ void TstEditLife::createPageOpenedAtOnceStartsWithAnEmptyFolder()
 {
     MainWindow window(nullptr);
     window.show();
+    ToolStopper archiver("x");
     const QPointer<CPage4> page = openAndLoad(window, image);
-    EditSaveFixture::putToolToSleep();
+    archiver.catchWhen(isUnpackedInPart);
     QVERIFY(page->isWorking());
     UserMouse::click(buttonOf(page, "back"));
     window.onCreate();

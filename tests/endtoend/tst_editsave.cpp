@@ -8,6 +8,7 @@
 #include "testcase.h"
 #include "testfiles.h"
 #include "testmain.h"
+#include "toolstopper.h"
 #include "util.h"
 
 #include <csignal>
@@ -125,8 +126,7 @@ void TstEditSave::editsWhileALargeImageIsBeingUnpackedAreInTheSavedOne()
     writeFile(fixture->path("extra/one.txt"), "one");
     writeFile(fixture->path("extra/sub/two.txt"), "two");
     writeFile(fixture->path("new.bin"), QByteArray(3'000'000, 'n'));
-    QVERIFY(fixture->browse(largeImage));
-    const int archiver = EditSaveFixture::putToolToSleep();
+    const int archiver = fixture->browseWhileUnpacking(largeImage);
     fixture->remove({"remove me", "empty folder"});
     fixture->rename("docs", "papers & more");
     fixture->rename("readme.txt", "read me first.txt");
@@ -186,8 +186,7 @@ void TstEditSave::savedOverAnExistingFile()
 
 void TstEditSave::secondImageLoadedWhileTheFirstIsBeingUnpackedIsTheOneSaved()
 {
-    QVERIFY(fixture->browse(largeImage));
-    EditSaveFixture::putToolToSleep();
+    fixture->browseWhileUnpacking(largeImage);
     fixture->remove({"docs"});
     QVERIFY(fixture->page->isWorking());
     QVERIFY(fixture->browse(smallImage));
@@ -198,8 +197,7 @@ void TstEditSave::secondImageLoadedWhileTheFirstIsBeingUnpackedIsTheOneSaved()
 
 void TstEditSave::saveStoppedInTheExtractionWaitThenSavedAgain()
 {
-    QVERIFY(fixture->browse(smallImage));
-    const int archiver = EditSaveFixture::putToolToSleep();
+    const int archiver = fixture->browseWhileUnpacking(smallImage);
     fixture->rename("docs", "papers");
     QVERIFY(fixture->saveAnd(
         image, [this] { return fixture->isShowing(extracting); },
@@ -238,9 +236,9 @@ void TstEditSave::saveStoppedWhileWritingThenSavedAgain()
     QVERIFY(fixture->browse(smallImage));
     QVERIFY(fixture->waitUntilWorked());
     for (int run = 0; run < 3; ++run) {
+        ToolStopper author("-udf");
         fixture->startSaving(image);
-        if (run > 0)
-            EditSaveFixture::putToolToSleep();
+        author.catchWhen();
         fixture->pressStop();
         QVERIFY(fixture->isUsable());
         // The last time without waiting for the end of the tool, which sleeps.

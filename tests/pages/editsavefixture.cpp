@@ -9,6 +9,7 @@
 #include "modaldriver.h"
 #include "processcounts.h"
 #include "testfiles.h"
+#include "toolstopper.h"
 #include "trigger.h"
 #include "usermouse.h"
 
@@ -16,8 +17,6 @@
 #include <QLabel>
 #include <QTimer>
 #include <QtTest>
-
-#include <csignal>
 
 namespace
 {
@@ -108,16 +107,12 @@ bool EditSaveFixture::areToolsGone()
            runnerThreadCount() == 0;
 }
 
-int EditSaveFixture::putToolToSleep()
+int EditSaveFixture::browseWhileUnpacking(const QString& imagePath) const
 {
-    const auto isUnderWay = [] {
-        return childProcesses().size() == 1 && !entriesOf(workFolder()).isEmpty();
-    };
-    if (!QTest::qWaitFor(isUnderWay, 20000))
-        qFatal("no tool to put to sleep");
-    const int tool = int(childProcesses().first());
-    ::kill(tool, SIGSTOP);
-    return tool;
+    ToolStopper unpacking("x");
+    if (!browse(imagePath))
+        qFatal("The image has not been listed");
+    return unpacking.catchWhen([] { return !entriesOf(workFolder()).isEmpty(); });
 }
 
 bool EditSaveFixture::isUsable() const

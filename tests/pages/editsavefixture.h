@@ -39,9 +39,9 @@ public:
 
     // No process is left that the page has started, nor any started by one.
     static bool areToolsGone();
-    // Puts the one tool that runs to sleep once there is something in the work folder; returns its
-    // process number.
-    static int putToolToSleep();
+    // Loads an image until it can be browsed and stops the archiver in the middle of unpacking it;
+    // returns its process number.
+    int browseWhileUnpacking(const QString& imagePath) const;
     // The page takes the user's next wish.
     bool isUsable() const;
     // The paths of all entries below the root, sorted.
