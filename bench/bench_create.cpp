@@ -21,7 +21,7 @@
 namespace
 {
 
-constexpr int runs = 5;
+constexpr int runs = 11;
 constexpr int pulseMs = 1;
 
 // The Create page, without clicks.
