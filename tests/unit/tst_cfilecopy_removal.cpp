@@ -27,6 +27,8 @@ private slots:
     void removalOfTheTaskInProgressDropsOneThatCameLater();
     void removalOfTheTaskInProgressFindsItBeforeItsNamesake();
     void clearDuringATaskDropsTheFirstThatComesAfterwards();
+    void replacementDropsWhatIsQueuedAndIsCarriedOut();
+    void replacementWakesAWorkerThatSleeps();
     void queueWorksOnAfterAClearThatEmptiedIt();
 };
 
@@ -211,6 +213,29 @@ void TstCFileCopyRemoval::clearDuringATaskDropsTheFirstThatComesAfterwards()
     QVERIFY(first.finish());
     QVERIFY(hasEmptied(queue));
     QCOMPARE(entriesOf(path("out")), QStringList("c"));
+}
+
+void TstCFileCopyRemoval::replacementDropsWhatIsQueuedAndIsCarriedOut()
+{
+    CFileCopy queue(nullptr);
+    HeldCopy first(path(""));
+    QVERIFY(hold(queue, first));
+    queue.AddTask(path("a"), path("out/a"), CFileCopy::Copy);
+    // Though it takes the place of the task in progress, whose end drops the head of the queue.
+    queue.ReplaceTasks(path("b"), path("out/b"), CFileCopy::Copy);
+    queue.AddTask(path("c"), path("out/c"), CFileCopy::Copy);
+    QVERIFY(first.finish());
+    QVERIFY(hasEmptied(queue));
+    QCOMPARE(entriesOf(path("out")), QStringList({"b", "c"}));
+}
+
+void TstCFileCopyRemoval::replacementWakesAWorkerThatSleeps()
+{
+    CFileCopy queue(nullptr);
+    giveTime();
+    queue.ReplaceTasks(path("a"), path("out/a"), CFileCopy::Copy);
+    QVERIFY(hasEmptied(queue));
+    QCOMPARE(entriesOf(path("out")), QStringList("a"));
 }
 
 void TstCFileCopyRemoval::queueWorksOnAfterAClearThatEmptiedIt()

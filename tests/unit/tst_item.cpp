@@ -27,6 +27,7 @@ private slots:
     void nameAndFolderOfAPath_data();
     void nameAndFolderOfAPath();
     void renameReplacesTheLastComponent();
+    void renamedBranchTakesEverythingBelowAlong();
     void itemPointerTravelsInAVariant();
 };
 
@@ -80,6 +81,19 @@ void TstItem::renameReplacesTheLastComponent()
     Item top = itemAt("old");
     top.Rename("n");
     QCOMPARE(top.path, QString("n"));
+}
+
+void TstItem::renamedBranchTakesEverythingBelowAlong()
+{
+    Item folder = itemAt("a/old");
+    folder.children.append(itemAt("a/old/old"));
+    folder.children.append(itemAt("a/old/file.txt"));
+    folder.children.first().children.append(itemAt("a/old/old/deep"));
+    folder.RenameBranch("new");
+    QCOMPARE(folder.path, QString("a/new"));
+    QCOMPARE(folder.children.at(0).path, QString("a/new/old"));
+    QCOMPARE(folder.children.at(0).children.at(0).path, QString("a/new/old/deep"));
+    QCOMPARE(folder.children.at(1).path, QString("a/new/file.txt"));
 }
 
 void TstItem::itemPointerTravelsInAVariant()

@@ -18,6 +18,8 @@ private slots:
     void programLiesBesideTheExecutable();
     void createArguments_data();
     void createArguments();
+    void saveArguments();
+    void bootPairStandsBetweenTheOptionAndThePath();
     void pathsArePassedAsTheyAre_data();
     void pathsArePassedAsTheyAre();
     void lineWithoutTheMarkerTellsNothing_data();
@@ -73,6 +75,18 @@ void TstMkisofs::createArguments()
     QFETCH(QString, flag);
     QCOMPARE(mkisofsCreateArguments(type, "/Users/u/new.iso", "/data/tmp"),
              QStringList({flag, "-R", "-r", "-o", "/Users/u/new.iso", "/data/tmp"}));
+}
+
+void TstMkisofs::saveArguments()
+{
+    QCOMPARE(mkisofsSaveArguments("/Users/u/new.iso", "/data/tmp", false),
+             QStringList({"-udf", "-R", "-o", "/Users/u/new.iso", "/data/tmp"}));
+}
+
+void TstMkisofs::bootPairStandsBetweenTheOptionAndThePath()
+{
+    QCOMPARE(mkisofsSaveArguments("/Users/u/new.iso", "/data/tmp", true),
+             QStringList({"-udf", "-R", "-o", "-b", "boot.bin", "/Users/u/new.iso", "/data/tmp"}));
 }
 
 void TstMkisofs::pathsArePassedAsTheyAre_data()

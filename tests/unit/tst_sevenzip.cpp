@@ -16,13 +16,17 @@ class TstSevenZip : public TestCase
 
 private slots:
     void listCommand();
+    void listInUtf8Command();
     void extractCommand();
+    void extractAllCommand();
     void entryArgument_data();
     void entryArgument();
     void entryNamedLikeTheCommandIsNotTakenForIt();
     void entryNamedTwiceIsPassedOnce();
     void progress_data();
     void progress();
+    void percentAlone_data();
+    void percentAlone();
     void backspaces_data();
     void backspaces();
     void statesOfALine();
@@ -39,6 +43,18 @@ void TstSevenZip::listCommand()
     QCOMPARE(sevenZipProgram(), QCoreApplication::applicationDirPath() + "/7z/7z");
     QCOMPARE(sevenZipListArguments("/a b/-image \"1\".iso"),
              QStringList({"l", "/a b/-image \"1\".iso"}));
+}
+
+void TstSevenZip::listInUtf8Command()
+{
+    QCOMPARE(sevenZipListUtf8Arguments("/Users/u/a b.iso"),
+             QStringList({"-scsUTF-8", "l", "/Users/u/a b.iso"}));
+}
+
+void TstSevenZip::extractAllCommand()
+{
+    QCOMPARE(sevenZipExtractAllArguments("/Users/u/a b.iso", "/data/tmp/"),
+             QStringList({"x", "-y", "-bb3", "-bsp2", "-o/data/tmp/", "/Users/u/a b.iso"}));
 }
 
 void TstSevenZip::extractCommand()
@@ -136,6 +152,27 @@ void TstSevenZip::progress()
     const auto reading = readSevenZipProgress(piece);
     QCOMPARE(reading ? reading->percent : -1, percent);
     QTEST(reading ? reading->entry : QString(), "entry");
+}
+
+void TstSevenZip::percentAlone_data()
+{
+    QTest::addColumn<QString>("piece");
+    QTest::addColumn<int>("percent"); // -1: it tells none
+    QTest::newRow("number") << "42% 3 - name" << 42;
+    QTest::newRow("blanks around") << "  42 % x" << 42;
+    QTest::newRow("begins with the mark") << "% 42" << -1;
+    QTest::newRow("no mark") << "42%" << -1;
+    QTest::newRow("empty") << "" << -1;
+    QTest::newRow("no number") << "- Sales 50% off" << 0;
+    QTest::newRow("two marks") << "7% 8% x" << 7;
+    QTest::newRow("rubbed out") << " 35% - a\b\b\b\b\b\b\b\b        \b\b\b\b\b\b\b\b 54% - b" << 54;
+}
+
+void TstSevenZip::percentAlone()
+{
+    QFETCH(QString, piece);
+    QFETCH(int, percent);
+    QCOMPARE(readSevenZipPercent(piece).value_or(-1), percent);
 }
 
 void TstSevenZip::backspaces_data()
