@@ -25,8 +25,6 @@ QMutex& workMutex()
     return *mutex;
 }
 
-constexpr int Nothing = -1;
-
 void copyEntry(const QString& source, const QString& destination)
 {
     if (QFileInfo(source).isFile())

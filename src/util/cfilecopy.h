@@ -28,16 +28,17 @@ class CFileCopy : public QThread
 public:
     enum TaskType
     {
-        Copy = 0,   // a file to the file destination, a folder into the folder destination
-        Delete = 1, // a file, or a folder with everything in it; the destination is empty
-        Move = 2    // renames a file or a folder to destination
+        Nothing = -1, // only takes its turn
+        Copy = 0,     // a file to the file destination, a folder into the folder destination
+        Delete = 1,   // a file, or a folder with everything in it; the destination is empty
+        Move = 2      // renames a file or a folder to destination
     };
 
     // Starts the worker at once; it sleeps while there is nothing to do.
     explicit CFileCopy(QObject* parent);
     ~CFileCopy() override;
 
-    // Appends a task. Paths are absolute. A type that is none of the above does nothing.
+    // Appends a task. Paths are absolute. A type that is none of the above does nothing either.
     void AddTask(QString source, QString destination, int type);
     // Drops the first queued task with exactly this source. A task in progress is finished all the
     // same, and whatever task heads the queue then is dropped in its place, never carried out.

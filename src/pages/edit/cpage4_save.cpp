@@ -11,14 +11,6 @@
 
 #include <QDebug>
 
-namespace
-{
-
-// A task of the copy queue that only takes its turn.
-constexpr int nothing = -1;
-
-} // namespace
-
 void CPage4::OnSave()
 {
     PageLifetime::Step step(lifetime);
@@ -69,5 +61,5 @@ void CPage4::StopCreate()
     if (preparation.isActive())
         return;
     // The task in progress goes on: what is queued next, a save too, comes after it.
-    queue.ReplaceTasks(QString(), QString(), nothing);
+    queue.ReplaceTasks(QString(), QString(), CFileCopy::Nothing);
 }
