@@ -81,8 +81,8 @@ private slots:
     void initTestCase();
     void backAndTheSameImageAgain();
     void createPageOpenedAtOnceStartsWithAnEmptyFolder();
-    void closeButtonEndsTheProgramAndTheArchiverWithIt_data();
-    void closeButtonEndsTheProgramAndTheArchiverWithIt();
+    void nextLoadIsRightWhateverAnArchiverThatWasLeftDoes_data();
+    void nextLoadIsRightWhateverAnArchiverThatWasLeftDoes();
 
 private:
     QTemporaryDir folder;
@@ -136,15 +136,16 @@ void TstEditLife::createPageOpenedAtOnceStartsWithAnEmptyFolder()
     QCOMPARE(entriesOf(Util::GetTempDir() + "/tmp"), QStringList());
 }
 
-void TstEditLife::closeButtonEndsTheProgramAndTheArchiverWithIt_data()
+void TstEditLife::nextLoadIsRightWhateverAnArchiverThatWasLeftDoes_data()
 {
     QTest::addColumn<bool>("isGoneBefore");
     QTest::newRow("before the next load") << true;
     QTest::newRow("during the next load") << false;
 }
 
-// Nobody reads what the archiver writes any more, so that it ends with the next line it writes.
-void TstEditLife::closeButtonEndsTheProgramAndTheArchiverWithIt()
+// The archiver goes on without the program, to its end or until it notices that nobody reads what
+// it writes any more; whatever it does, the next load ends with the whole image and nothing else.
+void TstEditLife::nextLoadIsRightWhateverAnArchiverThatWasLeftDoes()
 {
     QProcess program;
     program.start(QCoreApplication::applicationFilePath(), {closeArgument, image});
@@ -161,8 +162,6 @@ void TstEditLife::closeButtonEndsTheProgramAndTheArchiverWithIt()
     if (isGoneBefore) {
         ::kill(archiver, SIGCONT);
         QVERIFY(QTest::qWaitFor(isGone, 20000));
-        const int files = hashesBelow(EditPageFixture::workFolder()).size();
-        QVERIFY2(files > 0 && files < content.size(), "it went on to its end");
     }
     const EditSaveFixture fixture;
     QVERIFY(fixture.browse(image));

@@ -149,6 +149,7 @@ void CPage4::closeEvent(QCloseEvent* event)
     preparation.stop();
     // A page that is opened next empties the work folder: nothing may still write to it then.
     unpacking.stopAndWait();
+    lock.release();
     authoring.stop();
     // The page itself may take a while to go.
     progress->hide();

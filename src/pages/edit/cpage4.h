@@ -7,6 +7,7 @@
 #include "cfilecopy.h"
 #include "imagepage.h"
 #include "pagelifetime.h"
+#include "workfolderlock.h"
 
 #include <QTimer>
 
@@ -111,6 +112,10 @@ private:
     PageLifetime lifetime;
     // Runs while the work folder is being emptied for the image that is to be unpacked.
     QTimer preparation;
+    // Taken while the archiver of this page writes into the work folder.
+    WorkFolderLock lock;
+    // Turns of the preparation that another archiver has been waited for.
+    int turnsWaited = 0;
     // What is held back while the image is being unpacked.
     QList<FileTask> pendingTasks;
     // Percent, as the archiver reported last.

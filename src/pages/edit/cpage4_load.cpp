@@ -12,6 +12,13 @@
 #include <QDebug>
 #include <QFileInfo>
 
+namespace
+{
+
+constexpr int mostTurns = 3000; // of 10 ms
+
+} // namespace
+
 void CPage4::OnLoadISO()
 {
     // Before the user has chosen: it is likely to be done by then.
@@ -34,6 +41,7 @@ void CPage4::OnLoadISO()
     // before this one's are there.
     queue.ReplaceTasks(workFolder, QString(), CFileCopy::Delete);
     Util::copyedsize = 0;
+    turnsWaited = 0;
     preparation.start();
 }
 
@@ -41,6 +49,17 @@ void CPage4::unpackWhenClean()
 {
     if (queue.HasTasks())
         return;
+    // What an archiver of an earlier run still writes must not mix with what this one does. One
+    // that hangs does not hold it up for ever.
+    if (turnsWaited < mostTurns && !lock.take()) {
+        ++turnsWaited;
+        return;
+    }
+    if (turnsWaited > 0 && turnsWaited < mostTurns) {
+        turnsWaited = 0;
+        queue.ReplaceTasks(workFolder, QString(), CFileCopy::Delete);
+        return;
+    }
     preparation.stop();
     unpacking.start(this, SLOT(OnExtractOutput(QString)), SLOT(OnExtractFinished()),
                     sevenZipProgram(), sevenZipExtractAllArguments(isoPath, workFolder));
@@ -61,6 +80,8 @@ void CPage4::OnExtractOutput(QString line)
 {
     if (unpacking.isLate(sender()))
         return;
+    // The archiver runs and has it.
+    lock.keep();
     const auto percent = readSevenZipPercent(line);
     if (!percent)
         return;
@@ -75,6 +96,7 @@ void CPage4::OnExtractFinished()
         return;
     releasePendingTasks();
     unpacking.forget();
+    lock.release();
     qDebug() << "CPage4::OnExtractFinished() is called!!";
 }
 
