@@ -4,6 +4,7 @@
 #include "deliverypacer.h"
 
 #include <QMetaObject>
+#include <QTimer>
 
 namespace
 {
@@ -40,11 +41,13 @@ void DeliveryPacer::afterEmitting(int pieces, const std::function<bool()>& isSto
 }
 
 // Events of one thread to another arrive in order: when this one is handled, the pieces before it
-// have been.
+// have been. The receipt itself comes from a timer, which has its turn only after the events that
+// wait: so a flood lets the thread return to its other timers and to painting in between.
 void DeliveryPacer::requestReceipt()
 {
     ++receiptsOutstanding;
     const auto counter = receipts;
     QMetaObject::invokeMethod(
-        this, [counter] { counter->release(); }, Qt::QueuedConnection);
+        this, [this, counter] { QTimer::singleShot(0, this, [counter] { counter->release(); }); },
+        Qt::QueuedConnection);
 }
