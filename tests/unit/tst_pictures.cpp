@@ -9,6 +9,7 @@
 #include <QImage>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cmath>
 
 namespace
@@ -87,10 +88,11 @@ double luminance(const QColor& color)
            0.0722 * linear(color.blueF());
 }
 
-// Contrast of white on an opaque colour, from 1 (none) to 21.
-double contrastOfWhite(const QColor& ground)
+// From 1 (none) to 21.
+double contrast(const QColor& a, const QColor& b)
 {
-    return 1.05 / (luminance(ground) + 0.05);
+    const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
+    return (lighter + 0.05) / (darker + 0.05);
 }
 
 // Least contrast for texts of the captions' size.
@@ -125,6 +127,8 @@ private slots:
     void pagesHideWhatLiesUnderThem();
     void whiteCaptionsCanBeRead_data();
     void whiteCaptionsCanBeRead();
+    void symbolsInPlaceOfCaptionsCanBeSeen_data();
+    void symbolsInPlaceOfCaptionsCanBeSeen();
 };
 
 void TstPictures::initTestCase()
@@ -287,10 +291,43 @@ void TstPictures::whiteCaptionsCanBeRead()
     for (int y = area.top(); y <= area.bottom(); ++y) {
         for (int x = area.left(); x <= area.right(); ++x) {
             const QColor ground = image.pixelColor(x, y);
-            QVERIFY2(ground.alpha() == 255 && contrastOfWhite(ground) >= readable,
-                     qPrintable(QString("%1: %2").arg(ground.name()).arg(contrastOfWhite(ground))));
+            const double ofWhite = contrast(Qt::white, ground);
+            QVERIFY2(ground.alpha() == 255 && ofWhite >= readable,
+                     qPrintable(QString("%1: %2").arg(ground.name()).arg(ofWhite)));
         }
     }
+}
+
+void TstPictures::symbolsInPlaceOfCaptionsCanBeSeen_data()
+{
+    QTest::addColumn<QString>("path");
+    for (const Entry& entry : readList()) {
+        if (entry.kind == "iconbutton") {
+            for (const QString& path : entry.paths())
+                QTest::newRow(qPrintable(path)) << path;
+        }
+    }
+}
+
+void TstPictures::symbolsInPlaceOfCaptionsCanBeSeen()
+{
+    QFETCH(QString, path);
+    const QImage image = load(path);
+    const QColor ground = image.pixelColor(4, image.height() / 2);
+    QCOMPARE(ground.alpha(), 255);
+    // The symbol has room around it within the outline.
+    const QRect inside = image.rect().adjusted(3, 3, -3, -3);
+    const QRect room = inside.adjusted(2, 2, -2, -2);
+    int seen = 0;
+    for (int y = inside.top(); y <= inside.bottom(); ++y) {
+        for (int x = inside.left(); x <= inside.right(); ++x) {
+            QVERIFY(room.contains(x, y) || image.pixelColor(x, y) == ground);
+            seen += contrast(image.pixelColor(x, y), ground) >= 3 ? 1 : 0;
+        }
+    }
+    // More than a thin line, less than a ground.
+    const double share = 100.0 * seen / (image.width() * image.height());
+    QVERIFY2(share > 8 && share < 50, qPrintable(QString::number(share)));
 }
 
 KORVEX_TEST_MAIN(TstPictures)
