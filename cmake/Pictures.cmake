@@ -91,7 +91,7 @@ foreach(line ${lines})
   endif()
 endforeach()
 
-foreach(drawing disc emblem flame stick wordmark)
+foreach(drawing badge disc emblem flame sheet stick wordmark)
   string(TOUPPER ${drawing} name)
   file(READ ${KORVEX_RESOURCES_DIR}/symbols/${drawing}.svg.in ${name})
 endforeach()

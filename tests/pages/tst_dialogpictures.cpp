@@ -30,6 +30,8 @@ private slots:
     void success();
     void question();
     void notice();
+    void burnNotices_data();
+    void burnNotices();
     void progress();
     void busy();
     void input();
@@ -117,6 +119,7 @@ void TstDialogPictures::success()
 
 void TstDialogPictures::question()
 {
+    QVERIFY(QFile::exists(":/nwu/format_usb"));
     shootModal(
         [] {
             Util::ShowChoose(":/nwu/format_usb",
@@ -138,6 +141,27 @@ void TstDialogPictures::notice()
     choice.AddOK(120, 80);
     choice.AddNo(120, 220);
     shootModal([&] { choice.exec(); }, "dialog-notice-choice");
+}
+
+void TstDialogPictures::burnNotices_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("burn-fails") << "Burn Failed! Do as following:\n1.Try to burn again.\n2.Change "
+                                   "another USB drive or DVD.";
+    QTest::newRow("insert_usb") << "Please insert your USB drive to computer";
+    QTest::newRow("insufficient_space")
+        << "Insufficient space on disk, please change a large-capacity USB or CD/DVD.";
+}
+
+void TstDialogPictures::burnNotices()
+{
+    QFETCH(QString, text);
+    const QString picture = QTest::currentDataTag();
+    QVERIFY(QFile::exists(":/nwu/" + picture));
+    GerneralDialog dialog(nullptr);
+    dialog.SetBackGround(":/nwu/" + picture, text);
+    dialog.AddOK(123, 0);
+    shootModal([&] { dialog.exec(); }, "dialog-" + picture);
 }
 
 void TstDialogPictures::progress()

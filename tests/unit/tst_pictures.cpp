@@ -123,6 +123,8 @@ private slots:
     void roundMarksAndGlyphsHaveNoGround();
     void windowsHaveTransparentCornersAndAnOpaqueMiddle_data();
     void windowsHaveTransparentCornersAndAnOpaqueMiddle();
+    void dialogsLeaveTheirTextsAndButtonsAPlainGround_data();
+    void dialogsLeaveTheirTextsAndButtonsAPlainGround();
     void pagesHideWhatLiesUnderThem_data();
     void pagesHideWhatLiesUnderThem();
     void whiteCaptionsCanBeRead_data();
@@ -228,7 +230,7 @@ void TstPictures::windowsHaveTransparentCornersAndAnOpaqueMiddle_data()
 {
     QTest::addColumn<QString>("path");
     for (const Entry& entry : readList()) {
-        if (QStringList({"main", "dialog", "notice", "about"}).contains(entry.kind))
+        if (QStringList({"main", "dialog", "question", "notice", "about"}).contains(entry.kind))
             QTest::newRow(qPrintable(entry.name)) << ":/nwu/" + entry.name;
     }
 }
@@ -246,6 +248,34 @@ void TstPictures::windowsHaveTransparentCornersAndAnOpaqueMiddle()
         // The outline reaches the edge between the corners.
         QCOMPARE(qAlpha(image.pixel(area.center().x(), 0)), 255);
         QCOMPARE(qAlpha(image.pixel(0, area.center().y())), 255);
+    }
+}
+
+void TstPictures::dialogsLeaveTheirTextsAndButtonsAPlainGround_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QRect>("area");
+    for (const Entry& entry : readList()) {
+        const QString path = ":/nwu/" + entry.name;
+        const QByteArray name = entry.name.toUtf8();
+        if (entry.kind == "dialog" || entry.kind == "question") {
+            QTest::newRow(name + " text") << path << QRect(40, 50, 340, 80);
+            QTest::newRow(name + " buttons") << path << QRect(80, 140, 280, 28);
+        } else if (entry.kind == "notice") {
+            QTest::newRow(name + " text") << path << QRect(60, 40, 309, 81);
+            QTest::newRow(name + " buttons") << path << QRect(80, 133, 240, 28);
+        }
+    }
+}
+
+void TstPictures::dialogsLeaveTheirTextsAndButtonsAPlainGround()
+{
+    QFETCH(QString, path);
+    QFETCH(QRect, area);
+    const QImage image = load(path);
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x)
+            QCOMPARE(image.pixelColor(x, y), QColor(Qt::white));
     }
 }
 
