@@ -6,20 +6,37 @@
 #include "toolenvironment.h"
 #include "util.h"
 
+#include <QDeadlineTimer>
 #include <QDebug>
 #include <QProcess>
 
 namespace
 {
 
+constexpr int mostOutput = 64 << 20; // bytes
+
 QByteArray untilZero(const QByteArray& bytes)
 {
     return bytes.left(static_cast<int>(qstrlen(bytes.constData())));
 }
 
+// Leaves the process running when it is overdue.
+QByteArray readUntilEnd(QProcess& process, int limit)
+{
+    QByteArray output;
+    const QDeadlineTimer deadline(limit);
+    while (process.state() != QProcess::NotRunning && !deadline.hasExpired() &&
+           output.size() < mostOutput) {
+        process.waitForReadyRead(static_cast<int>(deadline.remainingTime()));
+        output += process.readAllStandardOutput();
+    }
+    return output;
+}
+
 } // namespace
 
-QByteArray runCommandText(const QString& command, const std::optional<QByteArray>& input, int limit)
+QByteArray runCommandText(const QString& command, const std::optional<QByteArray>& input, int limit,
+                          Overdue overdue)
 {
     QStringList words = QProcess::splitCommand(command);
     if (words.isEmpty())
@@ -27,18 +44,19 @@ QByteArray runCommandText(const QString& command, const std::optional<QByteArray
     const QString program = words.takeFirst();
     QProcess process;
     process.setProcessEnvironment(toolEnvironment());
+    process.setStandardErrorFile(QProcess::nullDevice());
     process.start(program, words, QIODevice::ReadWrite);
     if (input) {
         process.write(untilZero(*input));
         process.closeWriteChannel();
     }
-    process.waitForFinished(limit);
+    const QByteArray output = readUntilEnd(process, limit);
     if (process.state() != QProcess::NotRunning) {
         process.kill();
         process.waitForFinished(-1);
-        return {};
+        return overdue == Overdue::Keep ? untilZero(output) : QByteArray();
     }
-    return untilZero(process.readAllStandardOutput());
+    return untilZero(output);
 }
 
 QString runLoggedCommand(const QString& program, const QString& args,

@@ -75,6 +75,8 @@ void CRunCommandThread::waitFinished()
         QCoreApplication::processEvents();
         QThread::msleep(guiPollMs);
     }
+    // What the tool printed last may still be on its way.
+    QCoreApplication::processEvents();
 }
 
 void CRunCommandThread::terminate()

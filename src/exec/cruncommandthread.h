@@ -41,7 +41,8 @@ public:
     // Kept for the caller, the runner does not consult it.
     void SetNeedRealOutput(bool need);
     void start(QThread::Priority priority = QThread::InheritPriority);
-    // Processes the caller's events until the tool has finished. Not after terminate().
+    // Processes the caller's events until the tool has finished and all that it printed has been
+    // received. Not after terminate().
     void waitFinished();
     // Stops the tool and ends the run without sigfinished(). Returns at once.
     void terminate();

@@ -39,6 +39,15 @@ std::optional<int> readPercent(const QString& text)
     return text.left(percentEnd).trimmed().toInt();
 }
 
+std::optional<int> readPercentWord(const QString& text)
+{
+    const int percentEnd = text.indexOf(percentMark);
+    if (percentEnd <= 0)
+        return std::nullopt;
+    const QString before = text.left(percentEnd);
+    return before.mid(before.lastIndexOf(' ')).trimmed().toInt();
+}
+
 // What the latest state of the line tells that tells anything.
 template<class Reading>
 Reading readLatest(const QString& piece, Reading (*read)(const QString&))
@@ -61,4 +70,9 @@ std::optional<SevenZipProgress> readSevenZipProgress(const QString& piece)
 std::optional<int> readSevenZipPercent(const QString& piece)
 {
     return readLatest(piece, readPercent);
+}
+
+std::optional<int> readSevenZipPercentWord(const QString& piece)
+{
+    return readLatest(piece, readPercentWord);
 }

@@ -24,3 +24,6 @@ std::optional<SevenZipProgress> readSevenZipProgress(const QString& piece);
 // Only the percentage, for which no entry has to be named: what stands before the first "% ", 0
 // when that is no number.
 std::optional<int> readSevenZipPercent(const QString& piece);
+
+// The same, but of what stands before the first "% " only the last word counts.
+std::optional<int> readSevenZipPercentWord(const QString& piece);

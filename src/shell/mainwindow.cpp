@@ -4,13 +4,16 @@
 #include "mainwindow.h"
 
 #include "caboutusdialog.h"
+#include "cburndialog.h"
 #include "cimagebutton.h"
 #include "cpage2.h"
 #include "cpage3.h"
 #include "cpage4.h"
+#include "cpage5.h"
 #include "util.h"
 
 #include <QDesktopServices>
+#include <QScopedValueRollback>
 #include <QUrl>
 
 #include <cstdlib>
@@ -137,7 +140,21 @@ void MainWindow::onMin()
     showMinimized();
 }
 
-void MainWindow::onBurn() {}
+// The page asks the disk tools before it shows, with this window alive: pressing Burn again
+// meanwhile does not open another one behind it.
+void MainWindow::onBurn()
+{
+    if (openingBurn)
+        return;
+    const QScopedValueRollback<bool> opening(openingBurn, true);
+    Util::SetCursorBusy();
+    CBurnDialog* const page = new CBurnDialog(this);
+    Util::RestoreCursor();
+    page->move(pagePosition);
+    page->SetMoveable(false);
+    page->setParent(this);
+    page->show();
+}
 
 void MainWindow::onExtract()
 {
@@ -168,7 +185,14 @@ void MainWindow::onEdit()
     page->show();
 }
 
-void MainWindow::onCopy() {}
+void MainWindow::onCopy()
+{
+    CPage5* const page = new CPage5(this);
+    page->setParent(this);
+    page->move(pagePosition);
+    page->SetMoveable(false);
+    page->show();
+}
 
 void MainWindow::onHome()
 {

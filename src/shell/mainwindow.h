@@ -83,6 +83,7 @@ private:
     CImageButton* homeButton = nullptr;
     CImageButton* helpButton = nullptr;
     QPointer<QMenu> languageMenu;
+    bool openingBurn = false;
     // Filled by the first switch and loaded again by every other.
     std::unique_ptr<QTranslator> languageTranslator;
 };

@@ -7,17 +7,19 @@
 
 #include <QWidget>
 
-PageLifetime::PageLifetime(QWidget* owner, CFileCopy& pageQueue)
+PageLifetime::PageLifetime(QWidget* owner, CFileCopy* pageQueue)
     : page(owner)
     , queue(pageQueue)
 {
-    connect(&queue, SIGNAL(finished()), this, SLOT(freePageIfIdle()));
+    if (queue)
+        connect(queue, SIGNAL(finished()), this, SLOT(freePageIfIdle()));
 }
 
 void PageLifetime::close()
 {
     closed = true;
-    queue.stop();
+    if (queue)
+        queue->stop();
     freePageIfIdle();
 }
 
@@ -28,7 +30,7 @@ bool PageLifetime::isClosed() const
 
 void PageLifetime::freePageIfIdle()
 {
-    if (closed && steps == 0 && queue.isFinished())
+    if (closed && steps == 0 && (!queue || queue->isFinished()))
         page->deleteLater();
 }
 

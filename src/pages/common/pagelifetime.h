@@ -8,17 +8,17 @@
 class CFileCopy;
 class QWidget;
 
-// Frees a page that has a copy queue once it is closed and nothing of it is at work any more: the
-// copy in progress ends in the background instead of freezing the window, and a step of the page
-// that processes events finds the page alive when it goes on.
+// Frees a page once it is closed and nothing of it is at work any more: a copy in progress ends in
+// the background instead of freezing the window, and a step of the page that processes events finds
+// the page alive when it goes on.
 class PageLifetime : public QObject
 {
     Q_OBJECT
 
 public:
-    // Of page and its queue, which both outlive this object. The page calls close() from its
-    // closeEvent().
-    PageLifetime(QWidget* page, CFileCopy& queue);
+    // Of page and its queue, if it has one, which both outlive this object. The page calls close()
+    // from its closeEvent().
+    explicit PageLifetime(QWidget* page, CFileCopy* queue = nullptr);
 
     // Stops the queue; the page goes as soon as it can. The page may not be shown again.
     void close();
@@ -47,7 +47,7 @@ private slots:
 
 private:
     QWidget* page;
-    CFileCopy& queue;
+    CFileCopy* queue;
     int steps = 0;
     const Step* currentStep = nullptr;
     bool closed = false;

@@ -4,6 +4,7 @@
 #include "toolrun.h"
 
 #include "cruncommandthread.h"
+#include "runners.h"
 
 ToolRun::~ToolRun()
 {
@@ -13,12 +14,11 @@ ToolRun::~ToolRun()
 void ToolRun::start(QObject* receiver, const char* lineSlot, const char* endSlot,
                     const QString& program, const QStringList& arguments)
 {
-    runner = new CRunCommandThread(nullptr);
+    // However its run ends, a runner is used once.
+    runner = createFreeRunner();
     QObject::connect(runner, SIGNAL(standoutputline(QString)), receiver, lineSlot);
     if (endSlot)
         QObject::connect(runner, SIGNAL(sigfinished()), receiver, endSlot);
-    // However its run ends, a runner is used once.
-    QObject::connect(runner, SIGNAL(finished()), runner, SLOT(deleteLater()));
     runner->SetRunCmd(program, arguments);
     runner->start(QThread::InheritPriority);
 }

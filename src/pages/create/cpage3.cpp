@@ -10,6 +10,7 @@
 #include "cprogressdialog.h"
 #include "nofocusdelegate.h"
 #include "pagebutton.h"
+#include "pagewidgets.h"
 #include "util.h"
 
 #include <QCloseEvent>
@@ -38,43 +39,19 @@ const char* const barStyle =
     "QProgressBar { border: none; background: #E2F8FE; border-radius: 4px; }"
     "QProgressBar::chunk { background: #00A0E6; border-radius: 4px; }";
 
-const char* const radioStyle =
-    "QRadioButton { color: #333333; spacing: 6px; }"
-    "QRadioButton::indicator { width: 16px; height: 16px; }"
-    "QRadioButton::indicator:checked {\n    image: url(:/nwu/rchecked);\n}\n\n"
-    "QRadioButton::indicator:unchecked {\n    image: url(:/nwu/runchecked);\n}";
+const char* const radioStyle = "QRadioButton { color: #333333; spacing: 6px; }"
+                               "QRadioButton::indicator { width: 16px; height: 16px; }";
 
 constexpr int columnCount = 5;
-
-void setFontPixels(QWidget* widget, int pixels)
-{
-    QFont font = widget->font();
-    font.setPixelSize(pixels);
-    widget->setFont(font);
-}
-
-QLabel* createLabel(QWidget* parent, const QString& name, int pixels, const QColor& colour)
-{
-    QLabel* const label = new QLabel(parent);
-    label->setObjectName(name);
-    setFontPixels(label, pixels);
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, colour);
-    label->setPalette(palette);
-    return label;
-}
 
 QRadioButton* createRadioButton(QWidget* parent, const QString& name)
 {
     QRadioButton* const button = new QRadioButton(parent);
     button->setObjectName(name);
     setFontPixels(button, 13);
-    button->setStyleSheet(radioStyle);
+    button->setStyleSheet(QLatin1String(radioStyle) + radioMarkStyle);
     return button;
 }
-
-const QColor textColour(0x33, 0x33, 0x33);
-const QColor softTextColour(0x60, 0x60, 0x60);
 
 } // namespace
 
@@ -84,7 +61,7 @@ CPage3::CPage3(QWidget* parent)
     , authoring(*progress)
     , queue(nullptr)
     , stagingFolder(Util::GetTempDir() + "/tmp/")
-    , lifetime(this, queue)
+    , lifetime(this, &queue)
     , folderIcon(iconProvider.icon(QFileIconProvider::Folder))
 {
     setObjectName("CPage3");
@@ -111,10 +88,7 @@ CPage3::~CPage3()
 
 void CPage3::createTexts()
 {
-    title = createLabel(this, "filebackup", 16, textColour);
-    QFont font = title->font();
-    font.setBold(true);
-    title->setFont(font);
+    title = createPageHeading(this, "filebackup", 16);
     title->setGeometry(10, 8, 640, 24);
 }
 
@@ -151,9 +125,9 @@ void CPage3::createGauge()
     frame->setGeometry(gaugeRectangle);
     frame->setFixedSize(gaugeRectangle.size());
     frame->setStyleSheet(frameStyle);
-    totalSize = createLabel(frame, "totalsize", 13, textColour);
+    totalSize = createPageLabel(frame, "totalsize", 13, PageColours::text);
     totalSize->setGeometry(14, 10, 400, 18);
-    maxSize = createLabel(frame, "label_2", 13, softTextColour);
+    maxSize = createPageLabel(frame, "label_2", 13, PageColours::softText);
     maxSize->setGeometry(429, 10, 200, 18);
     maxSize->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     gauge = new QProgressBar(frame);
@@ -173,7 +147,7 @@ void CPage3::createTypeChoice()
     QHBoxLayout* const row = new QHBoxLayout(choice);
     row->setContentsMargins(2, 0, 2, 0);
     row->setSpacing(24);
-    typeLabel = createLabel(choice, "backtype", 13, softTextColour);
+    typeLabel = createPageLabel(choice, "backtype", 13, PageColours::softText);
     joliet = createRadioButton(choice, "jolet");
     iso9660 = createRadioButton(choice, "iso9600");
     udf = createRadioButton(choice, "udf");

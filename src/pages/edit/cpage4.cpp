@@ -33,7 +33,7 @@ CPage4::CPage4(QWidget* parent)
     , authoring(*progress)
     , workFolder(Util::GetTempDir() + "/tmp/")
     , queue(nullptr)
-    , lifetime(this, queue)
+    , lifetime(this, &queue)
 {
     setObjectName("CPage4");
     setWindowTitle("Dialog");

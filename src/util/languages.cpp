@@ -16,6 +16,7 @@ namespace
 {
 
 const char* const englishFile = "qt_en.qm";
+const char* const englishPrompt = "askpass.js";
 
 const Language* findLanguage(qint32 number)
 {
@@ -32,26 +33,29 @@ const std::vector<Language>& languages()
 {
     static const std::vector<Language> all{
         {QT_TRANSLATE_NOOP("MainWindow", "English"), SLOT(onEnglish()), englishFile,
-         QLocale::English},
+         QLocale::English, englishPrompt},
         {QT_TRANSLATE_NOOP("MainWindow", "Chinese"), SLOT(onChinese()), "qt_zh.qm",
-         QLocale::Chinese},
+         QLocale::Chinese, "askpass_zh.js"},
         {QT_TRANSLATE_NOOP("MainWindow", "Japanese"), SLOT(onJapanese()), "qt_ja.qm",
-         QLocale::Japanese},
-        {QT_TRANSLATE_NOOP("MainWindow", "French"), SLOT(onFrench()), "qt_fr.qm", QLocale::French},
-        {QT_TRANSLATE_NOOP("MainWindow", "German"), SLOT(onGerman()), "qt_de.qm", QLocale::German},
+         QLocale::Japanese, "askpass_ja.js"},
+        {QT_TRANSLATE_NOOP("MainWindow", "French"), SLOT(onFrench()), "qt_fr.qm", QLocale::French,
+         "askpass_fr.js"},
+        {QT_TRANSLATE_NOOP("MainWindow", "German"), SLOT(onGerman()), "qt_de.qm", QLocale::German,
+         "askpass_de.js"},
         {QT_TRANSLATE_NOOP("MainWindow", "Spanish"), SLOT(onSpanish()), "qt_es.qm",
-         QLocale::Spanish},
+         QLocale::Spanish, "askpass_es.js"},
         {QT_TRANSLATE_NOOP("MainWindow", "Portugues"), SLOT(onPortuguese()), "qt_pt.qm",
-         QLocale::Portuguese},
-        {QT_TRANSLATE_NOOP("MainWindow", "Polish"), SLOT(onPolish()), "qt_pl.qm", QLocale::Polish},
+         QLocale::Portuguese, "askpass_pt.js"},
+        {QT_TRANSLATE_NOOP("MainWindow", "Polish"), SLOT(onPolish()), "qt_pl.qm", QLocale::Polish,
+         "askpass_pl.js"},
         {QT_TRANSLATE_NOOP("MainWindow", "Italian"), SLOT(onItalian()), "qt_it.qm",
-         QLocale::Italian},
+         QLocale::Italian, "askpass_it.js"},
         {QT_TRANSLATE_NOOP("MainWindow", "Russian"), SLOT(onRussian()), "qt_ru.qm",
-         QLocale::Russian},
+         QLocale::Russian, "askpass_ru.js"},
         {QT_TRANSLATE_NOOP("MainWindow", "Netherlands"), SLOT(onNetherlands()), "qt_nl.qm",
-         dutchNumber},
+         dutchNumber, "askpass_nl.js"},
         {QT_TRANSLATE_NOOP("MainWindow", "Swedish"), SLOT(onSwitzerland()), "qt_sv.qm",
-         QLocale::Swedish},
+         QLocale::Swedish, "askpass_sv.js"},
     };
     return all;
 }
@@ -73,6 +77,12 @@ const Language* languageOfLocale(const QLocale& locale)
     if (locale.country() == QLocale::Netherlands)
         return &languageOfNumber(dutchNumber);
     return byLanguage;
+}
+
+QString passwordPromptOfNumber(qint32 number)
+{
+    const Language* const language = findLanguage(number);
+    return language ? language->passwordPrompt : englishPrompt;
 }
 
 QString translationPath(const QString& file)

@@ -26,6 +26,8 @@ struct Language
     const char* file;
     // What golbalLangue becomes.
     qint32 number;
+    // File of the password prompt that speaks it, in the translations folder.
+    const char* passwordPrompt;
 };
 
 // The number that Dutch is known by: that of a country.
@@ -40,6 +42,9 @@ const Language& languageOfNumber(qint32 number);
 // The language that a system locale chooses at start; null when the locale has none and English
 // texts are shown. Dutch is recognised by its country, whatever the language.
 const Language* languageOfLocale(const QLocale& locale);
+
+// The file of the password prompt for a language number; the English one for an unknown number.
+QString passwordPromptOfNumber(qint32 number);
 
 // Full path of a translation file.
 QString translationPath(const QString& file);
