@@ -33,7 +33,7 @@ void OpticalDriveReader::start()
     headerSeen = false;
 }
 
-std::optional<OpticalDrive> OpticalDriveReader::read(QString line)
+std::optional<DriveEntry> OpticalDriveReader::read(QString line)
 {
     line.remove('\r').remove('\n');
     if (line.contains(header)) {
@@ -48,7 +48,7 @@ std::optional<OpticalDrive> OpticalDriveReader::read(QString line)
     if (pending.device.isEmpty())
         return std::nullopt;
     headerSeen = false;
-    const OpticalDrive drive{pending.identification + " (" + pending.device + ')', pending.device};
+    const DriveEntry drive{pending.identification + " (" + pending.device + ')', pending.device};
     pending = Pending();
     return drive;
 }

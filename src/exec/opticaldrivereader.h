@@ -7,8 +7,8 @@
 
 #include <optional>
 
-// An optical drive as the drive lists show it.
-struct OpticalDrive
+// An optical drive with a disc as the drive lists show it.
+struct DriveEntry
 {
     // Vendor, product and revision, and the device in parentheses.
     QString text;
@@ -34,7 +34,7 @@ public:
     void start();
     // A line, and the drive that it completes, if any. A drive without a disc has no device and
     // never is complete.
-    std::optional<OpticalDrive> read(QString line);
+    std::optional<DriveEntry> read(QString line);
 
 private:
     Pending& pending;

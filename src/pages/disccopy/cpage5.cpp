@@ -6,6 +6,7 @@
 #include "cpage5.h"
 
 #include "cimagebutton.h"
+#include "cmycombobox.h"
 #include "cprogressdialog.h"
 #include "cruncommandthread.h"
 #include "discburncommand.h"
@@ -69,8 +70,8 @@ CPage5::~CPage5() = default;
 void CPage5::createSourcePanel()
 {
     source = createHeading(this, "source", headingPixels, {84, 104, 492, 24});
-    select = createFieldLabel(this, "select", {84, 138, 156, 34});
-    dvdlist = createPageField<QComboBox>(this, "dvdlist", {244, 140, 292, 30});
+    select = createFieldLabel(this, "select", {84, 138, 140, 34});
+    dvdlist = createPageField<CMyComboBox>(this, "dvdlist", {228, 140, 308, 30});
     eject = createPageButton(this, "eject", {544, 140}, SLOT(OnEject()));
     static OpticalDriveReader::Pending pendingDrive;
     opticalDrives = std::make_unique<OpticalDriveList>(dvdlist, dvdCurrent, pendingDrive);
@@ -79,11 +80,11 @@ void CPage5::createSourcePanel()
 void CPage5::createDestinationPanel()
 {
     destination = createHeading(this, "destination", headingPixels, {84, 208, 492, 24});
-    output = createFieldLabel(this, "output", {84, 242, 156, 34});
-    formatlist = createPageField<QComboBox>(this, "formatlist", {244, 244, 292, 30});
+    output = createFieldLabel(this, "output", {84, 242, 140, 34});
+    formatlist = createPageField<QComboBox>(this, "formatlist", {228, 244, 308, 30});
     formatlist->addItem(QString());
-    location = createFieldLabel(this, "location", {84, 282, 156, 34});
-    lineEdit = createPageField<QLineEdit>(this, "lineEdit", {244, 284, 292, 30});
+    location = createFieldLabel(this, "location", {84, 282, 140, 34});
+    lineEdit = createPageField<QLineEdit>(this, "lineEdit", {228, 284, 308, 30});
     browser = createPageButton(this, "browser", {544, 284}, SLOT(OnBrowser()));
 }
 
