@@ -1,0 +1,91 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "standinfolder.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+namespace
+{
+
+const QTemporaryDir& folder()
+{
+    static const QTemporaryDir theFolder;
+    return theFolder;
+}
+
+// A new folder for every scenario: who waits for a file in an earlier one sees it gone.
+QString& gateFolder()
+{
+    static QString name;
+    return name;
+}
+
+QStringList& systemFolders()
+{
+    static QStringList folders;
+    return folders;
+}
+
+void removeFolder(const QString& name)
+{
+    QDir(folder().filePath(name)).removeRecursively();
+}
+
+// Makes the stand-ins the only tools that this process and its children find.
+void replaceTools()
+{
+    systemFolders() = QFile::decodeName(qgetenv("PATH")).split(':');
+    qputenv("PATH", QFile::encodeName(folder().filePath("bin")));
+    qputenv("KORVEX_SCENARIO", QFile::encodeName(StandInFolder::scenarioPath()));
+    StandInFolder::clear();
+}
+
+Q_COREAPP_STARTUP_FUNCTION(replaceTools)
+
+} // namespace
+
+void StandInFolder::clear()
+{
+    QFile::remove(scenarioPath());
+    QFile::remove(callsPath());
+    if (!gateFolder().isEmpty())
+        removeFolder(gateFolder());
+    removeFolder("bin");
+    static int scenarios = 0;
+    gateFolder() = QString("gates%1").arg(++scenarios);
+    const QDir root(folder().path());
+    if (!root.mkpath("bin") || !root.mkpath(gateFolder()))
+        qFatal("Cannot make %s", qPrintable(root.path()));
+    for (const char* const program :
+         {"diskutil", "drutil", "hdiutil", "mount", "osascript", "sudo", "sync"})
+        QFile::link(KORVEX_SCRIPTED_DRIVE, toolPath(program));
+}
+
+QString StandInFolder::scenarioPath()
+{
+    return folder().filePath("scenario");
+}
+
+QString StandInFolder::callsPath()
+{
+    return scenarioPath() + ".calls";
+}
+
+QString StandInFolder::toolPath(const QString& program)
+{
+    return folder().filePath("bin/" + program);
+}
+
+QString StandInFolder::gatePath(const QString& name)
+{
+    return folder().filePath(gateFolder() + '/' + name);
+}
+
+QString StandInFolder::realToolPath(const QString& program)
+{
+    return QStandardPaths::findExecutable(program, systemFolders());
+}
