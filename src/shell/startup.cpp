@@ -3,14 +3,12 @@
 
 #include "startup.h"
 
+#include "applicationlook.h"
 #include "toolenvironment.h"
 #include "util.h"
 
 #include <QApplication>
 #include <QDebug>
-#include <QFile>
-#include <QFont>
-#include <QIcon>
 #include <QTextCodec>
 
 #include <sys/stat.h>
@@ -20,7 +18,6 @@ namespace
 {
 
 const QLatin1String mountedImages("/Volumes");
-const char* const fontFamily = "Microsoft YaHei";
 
 } // namespace
 
@@ -44,14 +41,6 @@ bool refuseToRunFrom(const QString& executableFolder)
 
 void setApplicationLook()
 {
-    // Where the family is not installed, one with the same range of scripts stands in for it.
-    QFont::insertSubstitutions(fontFamily, {"PingFang SC", "Noto Sans CJK SC", "Noto Sans"});
-    QFont font;
-    font.setFamily(fontFamily);
-    QApplication::setFont(font);
-    QApplication::setWindowIcon(QIcon(":nwu/logo"));
-    QFile styleSheet(":/qss.qss");
-    if (styleSheet.open(QIODevice::ReadOnly))
-        qApp->setStyleSheet(QString::fromUtf8(styleSheet.readAll()));
+    useApplicationLook();
     qDebug() << "codec" << QTextCodec::codecForLocale()->name() << Util::GetTempDir();
 }
