@@ -13,6 +13,7 @@ install(DIRECTORY
   ${KORVEX_BIN_DIR}/translations
   DESTINATION ${home} USE_SOURCE_PERMISSIONS)
 
+install(TARGETS askpass RUNTIME DESTINATION ${home})
 if(TARGET mkbootable)
   install(TARGETS mkbootable RUNTIME DESTINATION ${home})
 endif()

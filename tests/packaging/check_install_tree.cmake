@@ -36,9 +36,15 @@ function(check_tree prefix)
       expect_executable(${prefix}/${file})
     endif()
   endforeach()
-  if(NOT IS_DIRECTORY ${prefix}/lib/korvex-iso-editor/translations)
-    message(FATAL_ERROR "Missing: ${prefix}/lib/korvex-iso-editor/translations")
-  endif()
+  # Nobody but the owner may change what is asked for passwords, and everybody runs it.
+  file(GLOB prompts ${prefix}/lib/korvex-iso-editor/translations/askpass*.js)
+  foreach(program ${prompts} ${prefix}/lib/korvex-iso-editor/askpass)
+    execute_process(COMMAND stat -c %a ${program} OUTPUT_VARIABLE mode
+      OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+    if(NOT mode STREQUAL "755")
+      message(FATAL_ERROR "Mode ${mode}: ${program}")
+    endif()
+  endforeach()
   execute_process(COMMAND ${DESKTOP_FILE_VALIDATE} --warn-kde
     ${prefix}/share/applications/korvex-iso-editor.desktop COMMAND_ERROR_IS_FATAL ANY)
 endfunction()
