@@ -3,7 +3,8 @@
 #   bin/korvex-iso-editor                  link to the program there
 #   share/                                 desktop entry, metainfo, icons, licence
 # The tools in it are links to the installed ones, so whoever makes a package of it names 7zip,
-# genisoimage and wimtools as its dependencies.
+# genisoimage and wimtools as its dependencies, and syslinux, syslinux-common and mtools, which
+# mkbootable runs and copies from.
 
 set(home lib/korvex-iso-editor)
 

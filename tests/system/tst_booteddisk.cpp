@@ -1,0 +1,124 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "bootabledisk.h"
+#include "bootfiles.h"
+#include "imagedisk.h"
+#include "mbr.h"
+#include "testcase.h"
+#include "testfiles.h"
+#include "testmain.h"
+#include "virtualpc.h"
+
+#include <QProcess>
+
+// Disk images made bootable with the installed boot loader, and booted in a virtual PC. Only the
+// mounting is not real: what is copied to the mount point is put into the file system afterwards.
+class TstBootedDisk : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void bootsTheImage_data();
+    void bootsTheImage();
+    void saysWhatIsMissing();
+};
+
+namespace
+{
+
+constexpr int megabytes = 40;
+constexpr int bootLimitMs = 120000;
+
+// A boot manager that prints its text and stops the processor; it is loaded as those of Windows.
+QByteArray bootManager(const QByteArray& text)
+{
+    return QByteArray::fromHex("8cc8 8ed8 be1900 fc ac 08c0 7409 b40e bb0700 cd10 ebf2 f4 ebfd") +
+           text + '\0';
+}
+
+void run(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(program, arguments);
+    const bool ended = process.waitForFinished();
+    QVERIFY2(ended && process.exitCode() == 0,
+             qPrintable(program + ": " + process.errorString() + process.readAll()));
+}
+
+// The boot menu that the USB writer writes.
+const QByteArray bootMenu = "default boot\nLABEL boot\nMENU LABEL boot\n"
+                            "COM32 /syslinux/chain.c32\nAPPEND fs ntldr=/bootmgr\n";
+
+void formatPartition(const ImageDisk& stick, int fatBits)
+{
+    writeFile(stick.partition(), {});
+    QVERIFY(QFile::resize(stick.partition(), megabytes * 1024LL * 1024));
+    run("mkfs.vfat",
+        {"-F", QString::number(fatBits), "-s", fatBits == 32 ? "1" : "4", "-h",
+         QString::number(ImageDisk::firstSector), "-n", "MY STICK", stick.partition()});
+    writeFile(stick.disk(), ImageDisk::partitionedMbr(megabytes * 2048));
+    QVERIFY(QFile::resize(stick.disk(),
+                          megabytes * 1024LL * 1024 + ImageDisk::firstSector * sectorSize));
+    stick.tellSize();
+}
+
+void makeBootable(const ImageDisk& stick)
+{
+    stick.useReal("syslinux");
+    stick.useReal("sync");
+    QStringList said;
+    BootableDisk::Setup setup = stick.setup(&said);
+    setup.bootFiles = findBootFiles("/");
+    QCOMPARE(BootableDisk(setup).make(), QString());
+}
+
+// Brings into the partition what lies at the mount point, and the partition onto the disk.
+void putTogether(const ImageDisk& stick)
+{
+    QStringList arguments{"-s", "-i", stick.partition()};
+    for (const QString& entry : entriesOf(stick.mountPoint()))
+        arguments << stick.mountPoint() + '/' + entry;
+    run("mcopy", arguments << "::/");
+    run("dd", {"if=" + stick.partition(), "of=" + stick.disk(), "bs=512",
+               QStringLiteral("seek=%1").arg(ImageDisk::firstSector), "conv=notrunc"});
+}
+
+} // namespace
+
+void TstBootedDisk::bootsTheImage_data()
+{
+    QTest::addColumn<int>("fatBits");
+    QTest::newRow("FAT16") << 16;
+    QTest::newRow("FAT32") << 32;
+}
+
+void TstBootedDisk::bootsTheImage()
+{
+    QFETCH(int, fatBits);
+    const ImageDisk stick;
+    formatPartition(stick, fatBits);
+    makeBootable(stick);
+    const QByteArray text = "FAT" + QByteArray::number(fatBits) + " boot manager runs";
+    writeFile(stick.mountPoint() + "/syslinux.cfg", bootMenu);
+    writeFile(stick.mountPoint() + "/bootmgr", bootManager(text));
+    putTogether(stick);
+    const QString screen = VirtualPc(stick.disk()).screenWith(text, bootLimitMs);
+    QVERIFY2(screen.contains(text), qPrintable(screen));
+}
+
+void TstBootedDisk::saysWhatIsMissing()
+{
+    const ImageDisk stick;
+    formatPartition(stick, 16);
+    makeBootable(stick);
+    writeFile(stick.mountPoint() + "/syslinux.cfg", bootMenu);
+    putTogether(stick);
+    const QString text = "Couldn't read the boot file";
+    const QString screen = VirtualPc(stick.disk()).screenWith(text, bootLimitMs);
+    QVERIFY2(screen.contains(text), qPrintable(screen));
+}
+
+KORVEX_TEST_MAIN(TstBootedDisk)
+#include "tst_booteddisk.moc"
