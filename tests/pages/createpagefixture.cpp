@@ -14,8 +14,6 @@
 
 #include <QApplication>
 #include <QHeaderView>
-#include <QLabel>
-#include <QTimer>
 #include <QtTest>
 
 CreatePageFixture::CreatePageFixture()
@@ -120,24 +118,6 @@ void CreatePageFixture::startCreating(const QString& isoPath) const
 bool CreatePageFixture::waitForCall(int number) const
 {
     return QTest::qWaitFor([this, number] { return tool.calls().size() == number; }, 10000);
-}
-
-// The progress dialog is modal as well, so the message is whichever other dialog comes.
-QString CreatePageFixture::waitForMessage(int limitMs) const
-{
-    QString text;
-    QTimer poll;
-    QObject::connect(&poll, &QTimer::timeout, [&text] {
-        QWidget* const dialog = QApplication::activeModalWidget();
-        if (!dialog || qobject_cast<CProgressDialog*>(dialog))
-            return;
-        text = dialog->findChild<QLabel*>("label")->text();
-        UserMouse::moveAway(dialog);
-        UserMouse::click(dialog->findChild<QWidget*>("btnok"));
-    });
-    poll.start(20);
-    const auto isOver = [&text] { return !text.isNull() && !QApplication::activeModalWidget(); };
-    return QTest::qWaitFor(isOver, limitMs) ? text : QString();
 }
 
 bool CreatePageFixture::isToolGone()

@@ -42,8 +42,6 @@ public:
     void startCreating(const QString& isoPath) const;
     // Waits until the tool runs for the so manieth time.
     bool waitForCall(int number) const;
-    // Waits for the message that follows every run, closes it and returns its text.
-    QString waitForMessage(int limitMs = 30000) const;
 
     // Nothing of any tool is left, its children included.
     static bool isToolGone();

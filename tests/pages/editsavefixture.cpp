@@ -11,11 +11,8 @@
 #include "testfiles.h"
 #include "toolstopper.h"
 #include "trigger.h"
-#include "usermouse.h"
 
 #include <QApplication>
-#include <QLabel>
-#include <QTimer>
 #include <QtTest>
 
 namespace
@@ -62,24 +59,6 @@ std::unique_ptr<HeldFolder> EditSaveFixture::addHeld(qint64 bytes) const
 bool EditSaveFixture::waitForCall(int number) const
 {
     return QTest::qWaitFor([this, number] { return author.calls().size() == number; }, 10000);
-}
-
-// The progress dialog is modal as well, so the message is whichever other dialog comes.
-QString EditSaveFixture::waitForMessage(int limitMs) const
-{
-    QString text;
-    QTimer poll;
-    QObject::connect(&poll, &QTimer::timeout, [&text] {
-        QWidget* const dialog = QApplication::activeModalWidget();
-        if (!dialog || qobject_cast<CProgressDialog*>(dialog))
-            return;
-        text = dialog->findChild<QLabel*>("label")->text();
-        UserMouse::moveAway(dialog);
-        UserMouse::click(dialog->findChild<QWidget*>("btnok"));
-    });
-    poll.start(20);
-    const auto isOver = [&text] { return !text.isNull() && !QApplication::activeModalWidget(); };
-    return QTest::qWaitFor(isOver, limitMs) ? text : QString();
 }
 
 QString EditSaveFixture::save(const QString& isoPath) const

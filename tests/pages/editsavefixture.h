@@ -26,8 +26,6 @@ public:
 
     // Waits until the authoring tool runs for the so manieth time.
     bool waitForCall(int number) const;
-    // Waits for the message that follows every run, closes it and returns its text.
-    QString waitForMessage(int limitMs = 60000) const;
     // A save to this file, from the button to the message; returns the message.
     QString save(const QString& isoPath) const;
     // A save to this file during which action is done as soon as the condition holds. Returns when

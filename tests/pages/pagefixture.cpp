@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QProgressBar>
+#include <QTimer>
 #include <QtTest>
 
 PageFixture::PageFixture(ImageDialog* page)
@@ -80,4 +81,22 @@ void PageFixture::pressStop() const
 QString PageFixture::path(const QString& relative) const
 {
     return folder.filePath(relative);
+}
+
+// The progress dialog is modal as well, so the message is whichever other dialog comes.
+QString PageFixture::waitForMessage(int limitMs) const
+{
+    QString text;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, [&text] {
+        QWidget* const dialog = QApplication::activeModalWidget();
+        if (!dialog || qobject_cast<CProgressDialog*>(dialog))
+            return;
+        text = dialog->findChild<QLabel*>("label")->text();
+        UserMouse::moveAway(dialog);
+        UserMouse::click(dialog->findChild<QWidget*>("btnok"));
+    });
+    poll.start(20);
+    const auto isOver = [&text] { return !text.isNull() && !QApplication::activeModalWidget(); };
+    return QTest::qWaitFor(isOver, limitMs) ? text : QString();
 }

@@ -31,6 +31,8 @@ public:
     int progressMaximum() const;
     // Clicks Stop in the progress dialog.
     void pressStop() const;
+    // Waits for the message that follows every run, closes it and returns its text.
+    QString waitForMessage(int limitMs = 60000) const;
     // Below the fixture's folder.
     QString path(const QString& relative) const;
 
