@@ -3,7 +3,7 @@
 
 # The program with everything that it needs beside it, without the tests.
 add_custom_target(runnable)
-foreach(target korvex-iso-editor askpass mkbootable translations icons)
+foreach(target korvex-iso-editor askpass mkbootable platform-tool translations icons)
   if(TARGET ${target})
     add_dependencies(runnable ${target})
   endif()

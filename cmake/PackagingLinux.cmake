@@ -4,7 +4,8 @@
 #   share/                                 desktop entry, metainfo, icons, licence
 # The tools in it are links to the installed ones, so whoever makes a package of it names 7zip,
 # genisoimage and wimtools as its dependencies, and syslinux, syslinux-common and mtools, which
-# mkbootable runs and copies from.
+# mkbootable runs and copies from; for the disk tools in platform-tools/ they are util-linux, udev,
+# fdisk, dosfstools, eject, xorriso and udisks2.
 
 set(home lib/korvex-iso-editor)
 
@@ -18,6 +19,11 @@ install(TARGETS askpass RUNTIME DESTINATION ${home})
 if(TARGET mkbootable)
   install(TARGETS mkbootable RUNTIME DESTINATION ${home})
 endif()
+
+install(TARGETS platform-tool RUNTIME DESTINATION ${home}/platform-tools)
+foreach(name ${KORVEX_PLATFORM_TOOLS})
+  install(FILES ${KORVEX_BIN_DIR}/platform-tools/${name} DESTINATION ${home}/platform-tools)
+endforeach()
 
 if(TARGET korvex-iso-editor)
   install(TARGETS korvex-iso-editor RUNTIME DESTINATION ${home})

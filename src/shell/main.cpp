@@ -14,6 +14,7 @@ int main(int argc, char* argv[])
 {
     prepareProcess();
     QApplication application(argc, argv);
+    usePlatformTools(Util::GetCurrentExePath());
     qDebug() << "temporary folder" << Util::GetTempDir();
     if (refuseToRunFrom(Util::GetCurrentExePath()))
         return 0;

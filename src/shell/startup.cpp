@@ -9,6 +9,8 @@
 
 #include <QApplication>
 #include <QDebug>
+#include <QFile>
+#include <QFileInfo>
 #include <QTextCodec>
 
 #include <sys/stat.h>
@@ -28,6 +30,20 @@ void prepareProcess()
     useUtf8Codec();
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+}
+
+void usePlatformTools(const QString& executableFolder)
+{
+#ifdef Q_OS_LINUX
+    const QString folder = executableFolder + "/platform-tools";
+    if (!QFileInfo(folder).isDir())
+        return;
+    // An empty PATH must not end up as an empty entry, which means the current folder.
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", QFile::encodeName(folder) + (path.isEmpty() ? QByteArray() : ':' + path));
+#else
+    Q_UNUSED(executableFolder)
+#endif
 }
 
 bool refuseToRunFrom(const QString& executableFolder)

@@ -23,6 +23,8 @@ private slots:
     void everybodyMayReadAndWriteWhatIsCreated();
     void textIsUtf8WhateverTheLocale();
     void picturesAreSharpOnDenseScreens();
+    void platformToolsComeFirst();
+    void platformToolsNeedTheirFolder();
     void mountedImageIsRefused_data();
     void mountedImageIsRefused();
     void refusalHasNoSecondButton();
@@ -53,6 +55,30 @@ void TstStartup::picturesAreSharpOnDenseScreens()
 {
     QVERIFY(QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps));
     QVERIFY(QCoreApplication::testAttribute(Qt::AA_EnableHighDpiScaling));
+}
+
+void TstStartup::platformToolsComeFirst()
+{
+    const QByteArray path = qgetenv("PATH");
+    const QTemporaryDir folder;
+    writeFile(folder.filePath("platform-tools/diskutil"), "x");
+    const QByteArray tools = QFile::encodeName(folder.filePath("platform-tools"));
+    usePlatformTools(folder.path());
+    const QByteArray first = qgetenv("PATH");
+    qunsetenv("PATH");
+    usePlatformTools(folder.path());
+    const QByteArray alone = qgetenv("PATH");
+    qputenv("PATH", path);
+    QCOMPARE(first, tools + ':' + path);
+    QCOMPARE(alone, tools);
+}
+
+void TstStartup::platformToolsNeedTheirFolder()
+{
+    const QByteArray path = qgetenv("PATH");
+    const QTemporaryDir folder;
+    usePlatformTools(folder.path());
+    QCOMPARE(qgetenv("PATH"), path);
 }
 
 void TstStartup::mountedImageIsRefused_data()

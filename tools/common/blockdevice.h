@@ -27,6 +27,8 @@ struct BlockDevice
     QString serial;
     QString label;
     QString fileSystem;
+    // "dos", "gpt", ...; for a partition the table that it belongs to.
+    QString partitionTable;
     // Every place where it is mounted; "[SWAP]" for swap space in use.
     QStringList mountPoints;
     // What lies on it: a disk's partitions, the volume in an encrypted partition.

@@ -64,6 +64,7 @@ BlockDevice deviceOf(const QJsonObject& object)
     device.serial = textOf(object.value(QLatin1String("serial")));
     device.label = object.value(QLatin1String("label")).toString();
     device.fileSystem = textOf(object.value(QLatin1String("fstype")));
+    device.partitionTable = textOf(object.value(QLatin1String("pttype")));
     device.mountPoints = mountPointsOf(object);
     const QJsonArray children = object.value(QLatin1String("children")).toArray();
     for (const auto& child : children)
@@ -77,7 +78,7 @@ QStringList lsblkArguments(const QString& device)
 {
     QStringList arguments{
         QStringLiteral("--json"), QStringLiteral("--bytes"), QStringLiteral("--output"),
-        QStringLiteral("PATH,TYPE,SIZE,RM,HOTPLUG,TRAN,RO,VENDOR,MODEL,SERIAL,LABEL,FSTYPE,"
+        QStringLiteral("PATH,TYPE,SIZE,RM,HOTPLUG,TRAN,RO,VENDOR,MODEL,SERIAL,LABEL,FSTYPE,PTTYPE,"
                        "MOUNTPOINTS")};
     if (!device.isEmpty())
         arguments << QStringLiteral("--") << device;
