@@ -51,8 +51,8 @@ MainWindow::MainWindow(QWidget* parent)
     connect(createIsoButton, SIGNAL(clicked()), this, SLOT(onCreate()));
     connect(editButton, SIGNAL(clicked()), this, SLOT(onEdit()));
     connect(copyButton, SIGNAL(clicked()), this, SLOT(onCopy()));
-    setTopButton(homeButton, "Home", homeStyle, tr("Home"));
-    setTopButton(helpButton, "Help", homeStyle, tr("Help"));
+    setTopButton(homeButton, "Home", homeStyle);
+    setTopButton(helpButton, "Help", homeStyle);
     connect(homeButton, SIGNAL(clicked()), this, SLOT(onHome()));
     connect(helpButton, SIGNAL(clicked()), this, SLOT(onHelp()));
     languageTranslator = std::make_unique<QTranslator>();
@@ -84,29 +84,35 @@ CImageButton* MainWindow::createButton(const QString& name, const QRect& rectang
 // Close and minimise sit at the top left, in the manner of the program's home platform.
 void MainWindow::setUpTopBar()
 {
-    setTopButton(closeButton, "osxclose", windowStyle, tr("Close"));
-    setTopButton(minButton, "osxmin", windowStyle, tr("Minimize"));
+    setTopButton(closeButton, "osxclose", windowStyle);
+    setTopButton(minButton, "osxmin", windowStyle);
     closeButton->move(10, 9);
     minButton->move(30, 9);
     helpButton->move(helpButton->x(), helpButton->y() - 15);
     homeButton->move(homeButton->x(), homeButton->y() - 15);
-    menuButton->setAccessibleName(tr("Menu"));
     // Where the desktop shows the menu itself, the button has no pictures and stays in the
     // background; elsewhere it is the way to the menu.
     if (!Util::isMacOS())
-        setTopButton(menuButton, "menu", windowStyle, tr("Menu"));
+        setTopButton(menuButton, "menu", windowStyle);
     else
         menuButton->setFocusPolicy(Qt::NoFocus);
 }
 
-void MainWindow::setTopButton(CImageButton* button, const QString& picture, int style,
-                              const QString& accessibleName)
+void MainWindow::setTopButton(CImageButton* button, const QString& picture, int style)
 {
     const QString path = ":/nwu/" + picture;
     const bool hasDisabled = style == windowStyle && button != menuButton;
     button->SetBackGround(path + '1', path + '2', path + '3', hasDisabled ? path + '4' : QString(),
                           QString(), QString(), style);
-    button->setAccessibleName(accessibleName);
+}
+
+void MainWindow::nameTopButtons()
+{
+    closeButton->setAccessibleName(tr("Close"));
+    minButton->setAccessibleName(tr("Minimize"));
+    menuButton->setAccessibleName(tr("Menu"));
+    homeButton->setAccessibleName(tr("Home"));
+    helpButton->setAccessibleName(tr("Help"));
 }
 
 void MainWindow::setFunctionButton(CImageButton* button, const QString& picture,
@@ -128,6 +134,7 @@ void MainWindow::setUpTranslataion()
                       tr("\n Add, delete, rename \n content in ISO file"));
     setFunctionButton(copyButton, "Copy-Disc", tr("Copy Disk"),
                       tr("\n Make ISO file from \n CD/DVD disc"));
+    nameTopButtons();
 }
 
 void MainWindow::onClose()

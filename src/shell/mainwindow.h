@@ -41,7 +41,8 @@ public slots:
     void onHome();
     void onHelp();
     void aboutus();
-    // Re-applies the texts of the five function buttons. (The spelling is deliberate.)
+    // Re-applies the texts of the five function buttons and the names of the others. (The spelling
+    // is deliberate.)
     void setUpTranslataion();
 
     void onEnglish();
@@ -67,8 +68,9 @@ private:
     void setUpTopBar();
     void setFunctionButton(CImageButton* button, const QString& picture, const QString& caption,
                            const QString& description);
-    void setTopButton(CImageButton* button, const QString& picture, int style,
-                      const QString& accessibleName);
+    void setTopButton(CImageButton* button, const QString& picture, int style);
+    // What assistive technology calls the buttons without a caption.
+    void nameTopButtons();
     QMenu* createLanguageMenu();
     void switchLanguage(qint32 number);
 

@@ -6,6 +6,7 @@
 #include "cimagebutton.h"
 #include "languages.h"
 #include "mainwindow.h"
+#include "toolkittexts.h"
 #include "util.h"
 
 #include <QCoreApplication>
@@ -64,6 +65,7 @@ void MainWindow::switchLanguage(qint32 number)
     if (!languageTranslator->load(translationPath(language.file)))
         qDebug() << "no translation" << language.file;
     qDebug() << language.file;
+    loadToolkitTexts(&language);
     QCoreApplication::installTranslator(languageTranslator.get());
     setUpTranslataion();
     golbalLangue = language.number;

@@ -3,6 +3,8 @@
 
 #include "languages.h"
 
+#include "toolkittexts.h"
+
 #include <QCoreApplication>
 #include <QDebug>
 #include <QObject>
@@ -97,4 +99,5 @@ void loadTranslationOf(const QLocale& locale, QTranslator& translator)
         golbalLangue = language->number;
     if (!translator.load(translationPath(language ? language->file : englishFile)))
         qDebug() << "no translation for" << locale.name();
+    loadToolkitTexts(language);
 }

@@ -50,5 +50,5 @@ QString passwordPromptOfNumber(qint32 number);
 QString translationPath(const QString& file);
 
 // Loads the translation that a locale chooses, or the English one, and records the language if one
-// was matched. A missing file is ignored.
+// was matched. A missing file is ignored. The toolkit's texts follow.
 void loadTranslationOf(const QLocale& locale, QTranslator& translator);

@@ -112,7 +112,7 @@ void CBurnDialog::createDiscPanel()
     bootDVD = createPageHeading(this, "bootDVD", titlePixels);
     bootDVD->setGeometry(106, 106, 208, 24);
     bootDVD->installEventFilter(this);
-    selectDVD = createHint(this, "selectDVD", {84, 132, 226, 36});
+    selectDVD = createHint(this, "selectDVD", {84, 131, 226, 40});
     dvdlist = createPageField<CMyComboBox>(this, "dvdlist", {84, 172, 226, 26});
     static OpticalDriveReader::Pending pendingDrive;
     opticalDrives = std::make_unique<OpticalDriveList>(dvdlist, dvdCurrent, pendingDrive);
@@ -124,7 +124,7 @@ void CBurnDialog::createUsbPanel()
     bootUSB = createPageHeading(this, "bootUSB", titlePixels);
     bootUSB->setGeometry(372, 106, 208, 24);
     bootUSB->installEventFilter(this);
-    selectUSB = createHint(this, "selectUSB", {350, 132, 226, 36});
+    selectUSB = createHint(this, "selectUSB", {350, 131, 226, 40});
     usblist = createPageField<CMyComboBox>(this, "usblist", {350, 172, 226, 26});
 }
 
@@ -133,11 +133,11 @@ void CBurnDialog::createUsbOptions()
     partitionstyle = createFieldLabel(this, "partitionstyle", {350, 202, 226, 20});
     ptlist = createPageField<QComboBox>(this, "ptlist", {350, 224, 226, 26});
     ptlist->addItems({QString(), QString()});
-    filesystem = createFieldLabel(this, "filesystem", {350, 254, 92, 36});
+    filesystem = createFieldLabel(this, "filesystem", {350, 251, 92, 40});
     sysfilelist = createPageField<QComboBox>(this, "sysfilelist", {350, 292, 92, 26});
     // Names for the disk tool, so never translated.
     sysfilelist->addItems({"FAT32", "FAT"});
-    volumelabel = createFieldLabel(this, "volumelabel", {452, 254, 128, 36});
+    volumelabel = createFieldLabel(this, "volumelabel", {452, 251, 128, 40});
     volumelab = createPageField<QLineEdit>(this, "volumelab", {452, 292, 124, 26});
     volumelab->setMaxLength(longestVolumeLabel);
     volumelab->setValidator(

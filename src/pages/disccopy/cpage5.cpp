@@ -70,7 +70,7 @@ CPage5::~CPage5() = default;
 void CPage5::createSourcePanel()
 {
     source = createHeading(this, "source", headingPixels, {84, 104, 492, 24});
-    select = createFieldLabel(this, "select", {84, 138, 140, 34});
+    select = createFieldLabel(this, "select", {84, 135, 140, 40});
     dvdlist = createPageField<CMyComboBox>(this, "dvdlist", {228, 140, 308, 30});
     eject = createPageButton(this, "eject", {544, 140}, SLOT(OnEject()));
     static OpticalDriveReader::Pending pendingDrive;
@@ -80,10 +80,10 @@ void CPage5::createSourcePanel()
 void CPage5::createDestinationPanel()
 {
     destination = createHeading(this, "destination", headingPixels, {84, 208, 492, 24});
-    output = createFieldLabel(this, "output", {84, 242, 140, 34});
+    output = createFieldLabel(this, "output", {84, 239, 140, 40});
     formatlist = createPageField<QComboBox>(this, "formatlist", {228, 244, 308, 30});
     formatlist->addItem(QString());
-    location = createFieldLabel(this, "location", {84, 282, 140, 34});
+    location = createFieldLabel(this, "location", {84, 279, 140, 40});
     lineEdit = createPageField<QLineEdit>(this, "lineEdit", {228, 284, 308, 30});
     browser = createPageButton(this, "browser", {544, 284}, SLOT(OnBrowser()));
 }
