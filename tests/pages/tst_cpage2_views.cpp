@@ -10,6 +10,7 @@
 #include "startup.h"
 #include "testcase.h"
 #include "testmain.h"
+#include "textfit.h"
 
 #include <QAction>
 #include <QLabel>
@@ -123,9 +124,9 @@ void TstCPage2Views::labelsReadAsTheyShould()
 
 void TstCPage2Views::descriptionFitsBesideTheLoadButton()
 {
+    QCOMPARE(cutTexts(fixture->page), QStringList());
     for (const char* const name : {"isoextract", "descript"}) {
         const auto* const label = fixture->page->findChild<QLabel*>(name);
-        QVERIFY(label->fontMetrics().horizontalAdvance(label->text()) <= label->width());
         QVERIFY(!label->geometry().intersects(fixture->button("loadiso")->geometry()));
         QVERIFY(!label->geometry().intersects(fixture->table()->geometry()));
     }

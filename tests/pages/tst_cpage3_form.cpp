@@ -7,6 +7,7 @@
 #include "startup.h"
 #include "testcase.h"
 #include "testmain.h"
+#include "textfit.h"
 
 #include <QAction>
 #include <QHeaderView>
@@ -234,10 +235,7 @@ void TstCPage3Form::textsFitTheirLabels()
 {
     QVERIFY(fixture->holdQueue());
     fixture->addFiles({fixture->makeSparseFile("large", 5368709119)});
-    for (const char* const name : {"filebackup", "totalsize", "label_2", "backtype"}) {
-        const auto* const label = fixture->page->findChild<QLabel*>(name);
-        QVERIFY2(label->fontMetrics().horizontalAdvance(label->text()) <= label->width(), name);
-    }
+    QCOMPARE(cutTexts(fixture->page), QStringList());
 }
 
 KORVEX_TEST_MAIN(TstCPage3Form)
