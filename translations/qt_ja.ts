@@ -72,7 +72,7 @@
     </message>
     <message>
         <source>File System</source>
-        <translation>フォーマット</translation>
+        <translation>ファイルシステム</translation>
     </message>
     <message>
         <source>Volume Label(Max 11 Chars)</source>

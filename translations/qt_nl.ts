@@ -72,7 +72,7 @@
     </message>
     <message>
         <source>File System</source>
-        <translation>Indeling</translation>
+        <translation>Bestandssysteem</translation>
     </message>
     <message>
         <source>Volume Label(Max 11 Chars)</source>
