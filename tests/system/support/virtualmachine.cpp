@@ -1,0 +1,257 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "virtualmachine.h"
+
+#include "framebuffer.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QJsonArray>
+#include <QLocalSocket>
+
+namespace
+{
+
+// Of all times, since everything is emulated and the processors may be shared with others.
+constexpr int bootLimit = 300 * 1000;
+constexpr int shutDownLimit = 120 * 1000;
+constexpr int unplugLimit = 60 * 1000;
+constexpr int answerGrace = 60 * 1000;
+constexpr int stickSeconds = 60;
+
+// The processor is an old one because newer ones have the machine load drivers for what they can do
+// besides. Its self-tests and delays are of use on hardware only. A panic ends the emulator.
+const char* const kernelLine = "console=ttyS0 quiet panic=-1 mitigations=off no_timer_check "
+                               "tsc=reliable cryptomgr.notests 8250.nr_uarts=1 "
+                               "systemd.show_status=0";
+
+QStringList machineArguments(const QString& folder)
+{
+    const QString guest = Emulator::argumentPath(KORVEX_GUEST_FOLDER);
+    const QString bin = Emulator::argumentPath(KORVEX_PROGRAM_FOLDER);
+    return {
+        "-machine",
+        "q35",
+        "-accel",
+        "tcg,thread=multi",
+        "-cpu",
+        "Nehalem",
+        "-smp",
+        "2",
+        "-m",
+        "2048",
+        "-vga",
+        "none",
+        "-kernel",
+        guest + "/vmlinux",
+        "-initrd",
+        guest + "/initrd",
+        "-append",
+        kernelLine,
+        "-drive",
+        "if=none,id=root,format=raw,snapshot=on,file=" + guest + "/root.img",
+        "-device",
+        "virtio-blk-pci,drive=root",
+        "-virtfs",
+        "local,mount_tag=share,security_model=none,multidevs=remap,path=" + folder + "/share",
+        "-virtfs",
+        "local,mount_tag=program,security_model=none,readonly=on,path=" KORVEX_PROGRAM_FOLDER,
+        "-device",
+        "virtio-serial-pci",
+        "-chardev",
+        "socket,id=agent,path=" + folder + "/agent",
+        "-device",
+        "virtserialport,chardev=agent,name=korvex.agent",
+        "-device",
+        "qemu-xhci,id=usb",
+        "-device",
+        "ide-cd,id=cd",
+        "-serial",
+        "file:" + folder + "/console.log",
+    };
+}
+
+QString stickNode(const QString& serial)
+{
+    return "/dev/disk/by-id/usb-QEMU_QEMU_HARDDISK_" + serial + "-0:0";
+}
+
+} // namespace
+
+VirtualMachine::VirtualMachine() = default;
+
+VirtualMachine::~VirtualMachine() = default;
+
+bool VirtualMachine::start()
+{
+    const QDir folder(emulator.folder());
+    // Users of both sides write there, under numbers that mean nothing to the other.
+    constexpr auto everyone = QFile::Permissions(0x7777);
+    if (!folder.mkpath("share/commands") || !QFile::setPermissions(sharedFolder(), everyone) ||
+        !agentServer.listen(folder.filePath("agent")))
+        return fail("no shared folder");
+    if (!emulator.start(machineArguments(folder.path())) || !connectAgent() ||
+        !emulator.execute("cont"))
+        return fail(emulator.problem());
+    QByteArray line;
+    return readAnswer(&line, bootLimit) && (line == "ready" || fail("unexpected: " + line));
+}
+
+bool VirtualMachine::shutDown()
+{
+    run("systemctl poweroff --no-block", User::Root);
+    return emulator.waitForEnd(shutDownLimit) || fail(emulator.problem());
+}
+
+VirtualMachine::Result VirtualMachine::run(const QString& script, User user, int limitSeconds)
+{
+    Result result;
+    const int number = ++lastCommand;
+    const QString base = sharedFolder() + "/commands/" + QString::number(number);
+    QFile file(base + ".sh");
+    const QString preset = QString("PROGRAM=%1 SHARE=%2\n").arg(program, guestFolder);
+    if (!agent || !file.open(QIODevice::WriteOnly) ||
+        file.write((preset + script + "\n").toUtf8()) < 0)
+        return fail("the script cannot be written"), result;
+    file.close();
+    file.setPermissions(QFile::Permissions(0x4444));
+    agent->write(QString("%1 %2 %3\n")
+                     .arg(QString::number(number), user == User::Root ? "root" : "tester",
+                          QString::number(limitSeconds))
+                     .toUtf8());
+    QByteArray line;
+    while (readAnswer(&line, limitSeconds * 1000 + answerGrace)) {
+        const QList<QByteArray> words = line.split(' ');
+        if (words.size() != 2 || words.first().toInt() != number)
+            continue;
+        result.exitCode = words.last().toInt();
+        QFile output(base + ".out");
+        if (output.open(QIODevice::ReadOnly))
+            result.output = output.readAll();
+        return result;
+    }
+    return result;
+}
+
+QString VirtualMachine::sharedFolder() const
+{
+    return emulator.folder() + "/share";
+}
+
+QString VirtualMachine::plugStick(const QString& serial, const QString& file)
+{
+    const QString drive = "drive-" + serial;
+    // What is written may stay in memory: a file that outlives its machine outlives no power cut.
+    const QJsonObject cache = {{"no-flush", true}};
+    const QJsonObject content = {{"driver", "file"}, {"filename", file}, {"cache", cache}};
+    if (!emulator.execute(
+            "blockdev-add",
+            {{"driver", "raw"}, {"node-name", drive}, {"cache", cache}, {"file", content}}) ||
+        !emulator.execute("device_add", {{"driver", "usb-storage"},
+                                         {"id", serial},
+                                         {"bus", "usb.0"},
+                                         {"drive", drive},
+                                         {"serial", serial},
+                                         {"removable", true}})) {
+        fail(emulator.problem());
+        return {};
+    }
+    const Result found = run(QString("until [ -e %1 ]; do sleep 0.1; done; udevadm settle\n"
+                                     "readlink -f %1")
+                                 .arg(stickNode(serial)),
+                             User::Root, stickSeconds);
+    if (found.exitCode != 0)
+        fail("the machine does not see the stick " + serial);
+    return found.exitCode == 0 ? QString::fromUtf8(found.output.trimmed()) : QString();
+}
+
+bool VirtualMachine::unplugStick(const QString& serial)
+{
+    if (!emulator.execute("device_del", {{"id", serial}}) ||
+        !emulator.waitForEvent("DEVICE_DELETED", "device", serial, unplugLimit) ||
+        !emulator.execute("blockdev-del", {{"node-name", "drive-" + serial}}))
+        return fail(emulator.problem());
+    const Result gone =
+        run(QString("while [ -e %1 ]; do sleep 0.1; done; udevadm settle").arg(stickNode(serial)),
+            User::Root, stickSeconds);
+    return gone.exitCode == 0 || fail("the machine still sees the stick " + serial);
+}
+
+bool VirtualMachine::insertDisc(const QString& file)
+{
+    return emulator.execute("blockdev-change-medium", {{"id", "cd"},
+                                                       {"filename", file},
+                                                       {"format", "raw"},
+                                                       {"force", true},
+                                                       {"read-only-mode", "read-only"}}) ||
+           fail(emulator.problem());
+}
+
+bool VirtualMachine::removeDisc()
+{
+    return emulator.execute("eject", {{"id", "cd"}, {"force", true}}) || fail(emulator.problem());
+}
+
+bool VirtualMachine::isTrayOpen()
+{
+    QJsonValue devices;
+    if (!emulator.execute("query-block", {}, &devices))
+        return fail(emulator.problem());
+    for (const QJsonValue device : devices.toArray())
+        if (device["qdev"].toString() == "cd" || device["qdev"].toString().contains("/cd/"))
+            return device["tray_open"].toBool();
+    return fail("the machine has no disc drive");
+}
+
+QImage VirtualMachine::screenshot()
+{
+    if (run("cp --remove-destination /run/user/1000/Xvfb_screen0 $SHARE/screen").exitCode != 0) {
+        fail("the screen cannot be read");
+        return {};
+    }
+    QFile file(sharedFolder() + "/screen");
+    return file.open(QIODevice::ReadOnly) ? framebufferImage(file.readAll()) : QImage();
+}
+
+QString VirtualMachine::problem() const
+{
+    QFile console(emulator.folder() + "/console.log");
+    return trouble + (console.open(QIODevice::ReadOnly)
+                          ? "\n" + QString::fromUtf8(console.readAll().right(2000))
+                          : "");
+}
+
+bool VirtualMachine::connectAgent()
+{
+    if (!agentServer.waitForNewConnection(answerGrace))
+        return fail("the emulator has no channel for commands");
+    agent.reset(agentServer.nextPendingConnection());
+    agent->setParent(nullptr);
+    return true;
+}
+
+bool VirtualMachine::readAnswer(QByteArray* line, int milliseconds)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!agent->canReadLine()) {
+        const int left = milliseconds - static_cast<int>(timer.elapsed());
+        if (left <= 0 || !agent->waitForReadyRead(left))
+            return fail("the machine does not answer");
+    }
+    *line = agent->readLine().trimmed();
+    return true;
+}
+
+bool VirtualMachine::fail(const QString& text)
+{
+    trouble = text;
+    return false;
+}
+
+QString makeStick(const QString& path, qint64 bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.resize(bytes) ? path : QString();
+}
