@@ -19,7 +19,7 @@ namespace
 struct Page : public QWidget
 {
     CFileCopy queue{nullptr};
-    PageLifetime lifetime{this, queue};
+    PageLifetime lifetime{this, &queue};
 };
 
 } // namespace
