@@ -3,7 +3,7 @@
 
 #include "extractsession.h"
 #include "imagemaker.h"
-#include "processcounts.h"
+#include "slowdisk.h"
 #include "testcase.h"
 #include "testmain.h"
 
@@ -11,39 +11,11 @@
 #include <QProgressBar>
 #include <QTemporaryDir>
 
-#include <csignal>
-
 namespace
 {
 
 constexpr int fileCount = 40;
 constexpr qint64 fileBytes = 15'000'000;
-
-// Lets the archiver work for a tenth of the time. It reports five times a second and a fast disk
-// takes it all in half a second, which no progress bar could show.
-class SlowDisk : public QObject
-{
-public:
-    SlowDisk() { startTimer(20); }
-    ~SlowDisk() override { signalAll(SIGCONT); }
-
-protected:
-    void timerEvent(QTimerEvent*) override
-    {
-        turn = (turn + 1) % 10;
-        signalAll(turn == 0 ? SIGCONT : SIGSTOP);
-    }
-
-private:
-    static void signalAll(int signal)
-    {
-        const QList<qint64> children = childProcesses();
-        for (const qint64 process : children)
-            ::kill(pid_t(process), signal);
-    }
-
-    int turn = 0;
-};
 
 bool hasControlCharacter(const QString& text)
 {
