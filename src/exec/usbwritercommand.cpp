@@ -63,11 +63,11 @@ QStringList partitionDiskArguments(const QString& disk, const QString& fileSyste
 }
 
 QStringList bootToolArguments(const QString& prompt, const QString& bootTool, const QString& disk,
-                              const QString& mountPoint)
+                              const QString& mountPoint, const QString& log)
 {
-    const QString command("SUDO_ASKPASS='%1' sudo --askpass '%2' %3 %4 > /tmp/system.log 2>&1");
+    const QString command("SUDO_ASKPASS='%1' sudo --askpass '%2' %3 %4 > %5 2>&1");
     return {"-c", command.arg(escapedQuoted(prompt), escapedQuoted(bootTool), escapedWords(disk),
-                              escapedWords(mountPoint))};
+                              escapedWords(mountPoint), escapedWords(log))};
 }
 
 QStringList bootMenuLines()

@@ -15,9 +15,9 @@ QStringList partitionDiskArguments(const QString& disk, const QString& fileSyste
 
 // Of the shell: runs the boot tool on the disk as the administrator, the password asked for by the
 // prompt. It is the one command that passes a shell; a mount point named after a hostile label
-// means nothing to it but its characters.
+// means nothing to it but its characters. What the boot tool prints goes to log.
 QStringList bootToolArguments(const QString& prompt, const QString& bootTool, const QString& disk,
-                              const QString& mountPoint);
+                              const QString& mountPoint, const QString& log = "/tmp/system.log");
 
 // The boot menu, line by line.
 QStringList bootMenuLines();

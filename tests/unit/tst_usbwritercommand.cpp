@@ -155,6 +155,9 @@ void TstUsbWriterCommand::bootToolIsRunByTheFixedText()
              (QStringList{"-c", "SUDO_ASKPASS='/A pp/translations/askpass_de.js' sudo --askpass "
                                 "'/A pp/mkbootable' /dev/disk2 /Volumes/MY STICK_1.2-3 > "
                                 "/tmp/system.log 2>&1"}));
+    QVERIFY(bootToolArguments("/p", "/t", "/d", "/v", "/dev/null")
+                .last()
+                .endsWith(" > /dev/null 2>&1"));
     // What looks like a place for the next value is none.
     QCOMPARE(bootToolArguments("/%2", "/%3", "/%4", "/%1").last(),
              QString("SUDO_ASKPASS='/%2' sudo --askpass '/%3' /%4 /%1 > /tmp/system.log 2>&1"));

@@ -51,6 +51,14 @@ QString passwordPrompt()
     return QFileInfo::exists(prompt) ? prompt : folder + passwordPromptOfNumber(QLocale::English);
 }
 
+// A file that another user has left there cannot be written; the shell would then not even start
+// the boot tool.
+QString bootToolLog()
+{
+    const QFileInfo log("/tmp/system.log");
+    return log.exists() && !log.isWritable() ? "/dev/null" : log.filePath();
+}
+
 } // namespace
 
 // The tools' failures go unnoticed; the user is told of success whatever they did.
@@ -124,7 +132,7 @@ QString CBurnDialog::makeBootable(const QString& disk)
 void CBurnDialog::getParameterlist(QStringList& list, QString disk, QString mountPoint)
 {
     list += bootToolArguments(passwordPrompt(), Util::GetCurrentExePath() + "/mkbootable", disk,
-                              mountPoint);
+                              mountPoint, bootToolLog());
 }
 
 void CBurnDialog::copyImage(const QString& isoPath, const QString& mountPoint,
