@@ -1,9 +1,12 @@
 // Copyright (c) 2026 The Korvex ISO Editor developers
 // SPDX-License-Identifier: MIT
 
+#include "cburndialog.h"
 #include "cimagebutton.h"
 #include "cpage2.h"
 #include "cpage3.h"
+#include "cpage5.h"
+#include "drivescenario.h"
 #include "mainwindowtest.h"
 #include "startup.h"
 #include "testmain.h"
@@ -18,6 +21,8 @@ class TstMainWindowPages : public MainWindowTest
     Q_OBJECT
 
 private slots:
+    void init();
+    void cleanup();
     void extractOpensItsPage();
     void createOpensItsPage();
     void closedCreatePageIsFreed();
@@ -25,30 +30,55 @@ private slots:
     void pageCoversTheTilesBelowIt();
     void pageStaysWhereItIsWhenDragged();
     void spaceOnTheExtractButtonOpensOnePage();
-    void buttonsOfMissingFunctionsDoNothing_data();
-    void buttonsOfMissingFunctionsDoNothing();
+    void burnOpensItsPage();
+    void copyOpensItsPage();
+    void closedPageWithDrivesIsFreed_data();
+    void closedPageWithDrivesIsFreed();
+    void twoPressesOpenTwoPages_data();
+    void twoPressesOpenTwoPages();
+    void pagesWithDrivesHearOfADriveChange();
+
+private:
+    // Presses the button; the only new page of this class is where pages belong.
+    template<class Page>
+    void openPage(const QString& name);
+
+    // No drives.
+    std::unique_ptr<DriveScenario> scenario;
 };
 
-void TstMainWindowPages::extractOpensItsPage()
+template<class Page>
+void TstMainWindowPages::openPage(const QString& name)
 {
-    UserMouse::click(button("extract"));
-    const auto pages = window->findChildren<CPage2*>();
+    UserMouse::click(button(name));
+    const auto pages = window->findChildren<Page*>(QString(), Qt::FindDirectChildrenOnly);
     QCOMPARE(pages.size(), 1);
     QVERIFY(pages.first()->isVisible());
-    QCOMPARE(pages.first()->parentWidget(), window.get());
     QCOMPARE(pages.first()->pos(), QPoint(195, 107));
     QVERIFY(!pages.first()->isWindow());
 }
 
+void TstMainWindowPages::init()
+{
+    scenario = std::make_unique<DriveScenario>();
+    MainWindowTest::init();
+}
+
+void TstMainWindowPages::cleanup()
+{
+    MainWindowTest::cleanup();
+    QCOMPARE(scenario->unmatchedCalls(), QList<QStringList>());
+    scenario.reset();
+}
+
+void TstMainWindowPages::extractOpensItsPage()
+{
+    openPage<CPage2>("extract");
+}
+
 void TstMainWindowPages::createOpensItsPage()
 {
-    UserMouse::click(button("create"));
-    const auto pages = window->findChildren<CPage3*>();
-    QCOMPARE(pages.size(), 1);
-    QVERIFY(pages.first()->isVisible());
-    QCOMPARE(pages.first()->parentWidget(), window.get());
-    QCOMPARE(pages.first()->pos(), QPoint(195, 107));
-    QVERIFY(!pages.first()->isWindow());
+    openPage<CPage3>("create");
 }
 
 void TstMainWindowPages::closedCreatePageIsFreed()
@@ -106,21 +136,64 @@ void TstMainWindowPages::spaceOnTheExtractButtonOpensOnePage()
     QCOMPARE(QApplication::focusWidget()->objectName(), QString("loadiso"));
 }
 
-void TstMainWindowPages::buttonsOfMissingFunctionsDoNothing_data()
+void TstMainWindowPages::burnOpensItsPage()
 {
-    QTest::addColumn<QString>("name");
-    for (const char* const name : {"burn", "copy"})
-        QTest::newRow(name) << name;
+    openPage<CBurnDialog>("burn");
+    QVERIFY(!scenario->callsOf("diskutil").isEmpty());
 }
 
-void TstMainWindowPages::buttonsOfMissingFunctionsDoNothing()
+void TstMainWindowPages::copyOpensItsPage()
 {
-    QFETCH(QString, name);
-    const int children = window->children().size();
-    UserMouse::click(button(name));
-    QCOMPARE(window->children().size(), children);
-    QVERIFY(!QApplication::activeModalWidget());
-    QVERIFY(window->isActiveWindow());
+    openPage<CPage5>("copy");
+    QTRY_VERIFY(!scenario->callsOf("drutil").isEmpty());
+}
+
+void TstMainWindowPages::closedPageWithDrivesIsFreed_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::newRow("burn") << "CBurnDialog";
+    QTest::newRow("copy") << "CPage5";
+}
+
+void TstMainWindowPages::closedPageWithDrivesIsFreed()
+{
+    QFETCH(QString, page);
+    UserMouse::click(button(QTest::currentDataTag()));
+    const QPointer<QWidget> opened = window->findChild<QWidget*>(page, Qt::FindDirectChildrenOnly);
+    QVERIFY(opened);
+    UserMouse::click(opened->findChild<QWidget*>("back"));
+    QVERIFY(opened.isNull() || !opened->isVisible());
+    QTRY_VERIFY(opened.isNull());
+    QCOMPARE(QApplication::activeWindow(), window.get());
+}
+
+void TstMainWindowPages::twoPressesOpenTwoPages_data()
+{
+    closedPageWithDrivesIsFreed_data();
+}
+
+// The second press is a signal's, as the first page covers the button.
+void TstMainWindowPages::twoPressesOpenTwoPages()
+{
+    QFETCH(QString, page);
+    CImageButton* const pressed = button(QTest::currentDataTag());
+    UserMouse::click(pressed);
+    pressed->click();
+    const auto pages = window->findChildren<QWidget*>(page, Qt::FindDirectChildrenOnly);
+    QCOMPARE(pages.size(), 2);
+    for (const QWidget* const opened : pages) {
+        QVERIFY(opened->isVisible());
+        QCOMPARE(opened->pos(), QPoint(195, 107));
+    }
+}
+
+void TstMainWindowPages::pagesWithDrivesHearOfADriveChange()
+{
+    window->onBurn();
+    window->onCopy();
+    QTRY_COMPARE(scenario->callsOf("drutil").size(), 2);
+    emit window->sigdrivechange();
+    QTRY_COMPARE(scenario->callsOf("drutil").size(), 4);
 }
 
 KORVEX_TEST_MAIN(TstMainWindowPages)
