@@ -76,12 +76,15 @@ private:
     {
         const User user;
         Album album(options.output);
-        Tour tour{user, album, home, makeSampleImage(home)};
+        DriveScenario drives;
+        Tour tour{user, album, home, makeSampleImage(home), drives};
         try {
             tourHome(tour);
             tourExtract(tour);
             tourCreate(tour);
             tourEdit(tour);
+            tourBurn(tour);
+            tourDiscCopy(tour);
         } catch (const TourFailure& failure) {
             album.add("failed", user.photograph(), "FAILED: " + failure.reason);
             throw;
@@ -95,6 +98,8 @@ private:
         album.copyPicture("create-filled", options.readmePictures + "/create.png");
         album.copyPicture("create-progress", options.readmePictures + "/create-progress.png");
         album.copyPicture("edit-changed", options.readmePictures + "/edit.png");
+        album.copyPicture("burn-stick", options.readmePictures + "/burn.png");
+        album.copyPicture("disccopy-filled", options.readmePictures + "/disccopy.png");
     }
 
     Options options;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "album.h"
+#include "drivescenario.h"
 #include "sampleimage.h"
 #include "user.h"
 
@@ -18,6 +19,8 @@ struct Tour
     QString home;
     // In it.
     SampleImage sample;
+    // Nobody's disks are touched: the tools that deal with drives are stand-ins in every tour.
+    DriveScenario& drives;
 };
 
 // The home screen, the application menu, the about box. Leaves the home screen.
@@ -28,3 +31,8 @@ void tourExtract(Tour& tour);
 void tourCreate(Tour& tour);
 // The Edit page: the sample image changed and saved as a new one. Leaves the home screen.
 void tourEdit(Tour& tour);
+// The Burn page: a scripted disc burnt and a scripted stick written, with the real archiver. Leaves
+// the home screen.
+void tourBurn(Tour& tour);
+// The Copy Disk page: an image of a scripted disc. Leaves the home screen.
+void tourDiscCopy(Tour& tour);

@@ -9,6 +9,7 @@
 #include "toolenvironment.h"
 #include "tourfailure.h"
 
+#include <QComboBox>
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
@@ -28,6 +29,22 @@ int shownPercent()
     return bar && bar->maximum() > 0 ? bar->value() * 100 / bar->maximum() : -1;
 }
 
+void addProgressPicture(Tour& tour, const QString& picture, const QString& done)
+{
+    tour.album.add(picture, tour.user.photograph(), done,
+                   {QString("progress: %1%").arg(tour.user.see(shownPercent)),
+                    "text: " + tour.user.texts("CProgressDialog").join(" | ")});
+}
+
+QStringList entriesOf(const QString& page, const QString& name)
+{
+    QStringList entries;
+    const auto* const list = qobject_cast<QComboBox*>(visibleWidget(page, name));
+    for (int i = 0; list && i < list->count(); ++i)
+        entries.append(list->itemText(i));
+    return entries;
+}
+
 } // namespace
 
 void photographProgress(Tour& tour, SlowedTool& tool, const QString& picture, const QString& done)
@@ -39,9 +56,14 @@ void photographProgress(Tour& tour, SlowedTool& tool, const QString& picture, co
         require(tour.user.see(shownPercent) >= 0, "The progress dialog has gone too early.");
         tool.step();
     }
-    tour.album.add(picture, tour.user.photograph(), done,
-                   {QString("progress: %1%").arg(tour.user.see(shownPercent)),
-                    "text: " + tour.user.texts("CProgressDialog").join(" | ")});
+    addProgressPicture(tour, picture, done);
+}
+
+void photographProgressAt(Tour& tour, int percent, const QString& picture, const QString& done)
+{
+    tour.user.waitFor(QString("a progress of %1%").arg(percent),
+                      [percent] { return shownPercent() == percent; });
+    addProgressPicture(tour, picture, done);
 }
 
 void acceptAndPhotographAuthoring(Tour& tour, const QString& picture, const QString& done)
@@ -81,6 +103,13 @@ void closeSuccess(Tour& tour, const QString& message, const QString& picture, co
     tour.album.add(picture, tour.user.photograph(), done, {"message: " + texts.join(" | ")});
     tour.user.click("CommDialog", "btnok");
     tour.user.waitUntilGone("CommDialog");
+}
+
+QStringList waitForEntries(Tour& tour, const QString& page, const QString& name, int count)
+{
+    tour.user.waitFor(QString("%1 entries in \"%2\"").arg(count).arg(name),
+                      [=] { return entriesOf(page, name).size() == count; });
+    return tour.user.see([=] { return entriesOf(page, name); });
 }
 
 QStringList entryNames(const QString& folder)
