@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMetaEnum>
+#include <QMouseEvent>
 #include <QRadioButton>
 #include <QRegularExpressionValidator>
 
@@ -55,7 +56,7 @@ QLabel* createFieldLabel(QWidget* parent, const QString& name, const QRect& rect
 QRadioButton* createTargetButton(QWidget* parent, const QString& name, QPoint position)
 {
     QRadioButton* const button =
-        createPageField<QRadioButton>(parent, name, {position, QSize(18, 24)});
+        createPageField<QRadioButton>(parent, name, {position, QSize(22, 24)});
     button->setStyleSheet(radioMarkStyle);
     return button;
 }
@@ -207,8 +208,12 @@ void CBurnDialog::closeEvent(QCloseEvent* event)
 
 bool CBurnDialog::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::MouseButtonRelease)
-        (watched == bootDVD ? rdvd : rusb)->setChecked(true);
+    if (event->type() == QEvent::MouseButtonRelease) {
+        const auto* const release = static_cast<QMouseEvent*>(event);
+        const auto* const title = static_cast<QWidget*>(watched);
+        if (release->button() == Qt::LeftButton && title->rect().contains(release->pos()))
+            (title == bootDVD ? rdvd : rusb)->setChecked(true);
+    }
     return ImageDialog::eventFilter(watched, event);
 }
 
@@ -254,7 +259,8 @@ void CBurnDialog::OnVolumeLabTextChange(QString text)
     const QString upper = text.toUpper();
     if (text == upper)
         return;
-    const int cursor = volumelab->cursorPosition();
+    // What is before the cursor may grow: the upper case of some letters is two.
+    const int cursor = text.left(volumelab->cursorPosition()).toUpper().size();
     volumelab->setText(upper);
     volumelab->setCursorPosition(cursor);
 }

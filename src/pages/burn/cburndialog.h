@@ -45,7 +45,7 @@ public:
     QString GetDriverName(QString line);
     QString GetCDRNoToDriver(QString name, QString busId);
 
-    // The optical entry that was current when the list was last cleared.
+    // The optical entry that was current when the complete list was last cleared.
     static QString dvdCurrent;
 
 public slots:
@@ -131,6 +131,7 @@ private:
     // External disks that have not been looked at yet.
     QStringList waitingDisks;
     bool listingDisks = false;
+    bool listingDiscs = false;
     bool burning = false;
     int copiedPercent = 0;
 };

@@ -60,10 +60,15 @@ void CBurnDialog::refreshUsbDisks()
 
 void CBurnDialog::refreshOpticalDrives()
 {
+    const QString chosen = dvdCurrent;
     CRunCommandThread runner(nullptr);
     opticalRefresh = &runner;
     opticalDrives->startReading();
     opticalDrives->clear();
+    // A list that another refresh was still filling had no choice of the user's.
+    if (listingDiscs)
+        dvdCurrent = chosen;
+    const QScopedValueRollback<bool> listing(listingDiscs, true);
     connect(&runner, SIGNAL(standoutputline(QString)), this, SLOT(onLineOutput(QString)));
     runToEnd(runner, "drutil", {"status"});
 }
