@@ -4,6 +4,7 @@
 #include "textfit.h"
 
 #include "cimagebutton.h"
+#include "cmycombobox.h"
 #include "scheckboxheaderview.h"
 
 #include <QAbstractButton>
@@ -83,6 +84,9 @@ public:
 
     void measure(const QComboBox* list)
     {
+        // Shows what does not fit without its middle, and whole in a tool tip.
+        if (qobject_cast<const CMyComboBox*>(list))
+            return;
         QStyleOptionComboBox option;
         option.initFrom(list);
         const int room =
