@@ -3,16 +3,11 @@
 
 #include "disccopytest.h"
 
-#include "cprogressdialog.h"
 #include "processcounts.h"
 #include "startup.h"
-#include "usermouse.h"
 
-#include <QApplication>
 #include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
-#include <QTimer>
 #include <QtTest>
 
 void DiscCopyTest::initTestCase()
@@ -106,41 +101,14 @@ bool DiscCopyTest::waitUntilToolsAreGone()
     return QTest::qWaitFor([] { return runnerThreadCount() == 0; }, 10000);
 }
 
-QWidget* DiscCopyTest::message()
-{
-    QWidget* const dialog = QApplication::activeModalWidget();
-    return dialog && !qobject_cast<CProgressDialog*>(dialog) ? dialog : nullptr;
-}
-
-QString DiscCopyTest::answerMessage(const std::function<void()>& first, const QString& button,
-                                    const std::function<void()>& look) const
-{
-    QString text;
-    QTimer poll;
-    connect(&poll, &QTimer::timeout, [&] {
-        QWidget* const dialog = message();
-        if (!dialog)
-            return;
-        if (look && text.isNull())
-            look();
-        text = dialog->findChild<QLabel*>("label")->text();
-        UserMouse::moveAway(dialog);
-        UserMouse::click(dialog->findChild<QWidget*>(button));
-    });
-    poll.start(10);
-    first();
-    const auto isClosed = [&] { return !text.isNull() && !QApplication::activeModalWidget(); };
-    return QTest::qWaitFor(isClosed, 30000) ? text : QString();
-}
-
 QString DiscCopyTest::closeMessage(const QString& button, const std::function<void()>& look) const
 {
-    return answerMessage([] {}, button, look);
+    return fixture->answerMessage([] {}, button, look);
 }
 
 QString DiscCopyTest::copyToEnd(const QString& button, const std::function<void()>& look) const
 {
-    return answerMessage([this] { fixture->press("start"); }, button, look);
+    return fixture->answerMessage([this] { fixture->press("start"); }, button, look);
 }
 
 QComboBox* DiscCopyTest::drives() const

@@ -61,8 +61,6 @@ protected:
     bool waitForCalls(const QString& program, int count) const;
     // No tool runs any more, and what they printed has been received.
     static bool waitUntilToolsAreGone();
-    // The message that is open, as the progress dialog is modal as well.
-    static QWidget* message();
     // Waits for the message that follows a copy, presses the button in it and returns its text.
     // look is done while the message is open.
     QString closeMessage(const QString& button = "btnok",
@@ -79,8 +77,6 @@ protected:
     static QStringList imageArguments(const QString& imagePath, const QString& mountPoint);
     // The parser keeps what it has read of a drive whose entry is not complete.
     void forgetPendingDrive() const;
-    QString answerMessage(const std::function<void()>& first, const QString& button,
-                          const std::function<void()>& look) const;
     // What the tool does when it is called to make an image, however its arguments read.
     void onMakeHybrid(const QStringList& actions) const;
 

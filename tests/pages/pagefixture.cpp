@@ -83,20 +83,34 @@ QString PageFixture::path(const QString& relative) const
     return folder.filePath(relative);
 }
 
-// The progress dialog is modal as well, so the message is whichever other dialog comes.
+QWidget* PageFixture::message()
+{
+    QWidget* const dialog = QApplication::activeModalWidget();
+    return dialog && !qobject_cast<CProgressDialog*>(dialog) ? dialog : nullptr;
+}
+
 QString PageFixture::waitForMessage(int limitMs) const
+{
+    return answerMessage([] {}, "btnok", {}, limitMs);
+}
+
+QString PageFixture::answerMessage(const std::function<void()>& first, const QString& button,
+                                   const std::function<void()>& look, int limitMs) const
 {
     QString text;
     QTimer poll;
-    QObject::connect(&poll, &QTimer::timeout, [&text] {
-        QWidget* const dialog = QApplication::activeModalWidget();
-        if (!dialog || qobject_cast<CProgressDialog*>(dialog))
+    QObject::connect(&poll, &QTimer::timeout, [&] {
+        QWidget* const dialog = message();
+        if (!dialog)
             return;
+        if (look && text.isNull())
+            look();
         text = dialog->findChild<QLabel*>("label")->text();
         UserMouse::moveAway(dialog);
-        UserMouse::click(dialog->findChild<QWidget*>("btnok"));
+        UserMouse::click(dialog->findChild<QWidget*>(button));
     });
-    poll.start(20);
+    poll.start(10);
+    first();
     const auto isOver = [&text] { return !text.isNull() && !QApplication::activeModalWidget(); };
     return QTest::qWaitFor(isOver, limitMs) ? text : QString();
 }

@@ -8,6 +8,8 @@
 #include <QPointer>
 #include <QTemporaryDir>
 
+#include <functional>
+
 class CImageButton;
 class CProgressDialog;
 
@@ -31,8 +33,14 @@ public:
     int progressMaximum() const;
     // Clicks Stop in the progress dialog.
     void pressStop() const;
+    // The message that is open, as the progress dialog is modal as well.
+    static QWidget* message();
     // Waits for the message that follows every run, closes it and returns its text.
     QString waitForMessage(int limitMs = 60000) const;
+    // The same after doing what leads to the message, which may be there before that is done.
+    // look is done while it is open, and then the button of this name pressed.
+    QString answerMessage(const std::function<void()>& first, const QString& button,
+                          const std::function<void()>& look, int limitMs = 60000) const;
     // Below the fixture's folder.
     QString path(const QString& relative) const;
 

@@ -105,7 +105,7 @@ void TstDiscCopyPictures::success()
 {
     fill();
     onMakeHybrid({});
-    const auto look = [] { Pictures::save(message(), "disccopy-success"); };
+    const auto look = [] { Pictures::save(PageFixture::message(), "disccopy-success"); };
     QCOMPARE(copyToEnd("btnok", look), copySuccess());
 }
 
