@@ -8,13 +8,15 @@
 #include <QFile>
 #include <QThread>
 
-#include <algorithm>
-#include <array>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
+#ifdef __APPLE__
+#include <sys/disk.h>
+#include <sys/ioctl.h>
+#endif
 
 namespace
 {
@@ -26,7 +28,8 @@ constexpr int lockPauseMs = 100;
 DiskFile::DiskFile(const QString& device, Access access)
     : path(device)
 {
-    // O_EXCL without O_CREAT claims a block device: it fails while a part of it is mounted.
+    // O_EXCL without O_CREAT claims a block device: it fails while a part of it is mounted. macOS
+    // fails then for every writer, and takes no notice of the flag.
     const int mode = access == Access::Read ? O_RDONLY : O_RDWR | O_EXCL;
     descriptor = ::open(QFile::encodeName(path).constData(), mode | O_CLOEXEC);
     if (descriptor < 0)
@@ -60,30 +63,56 @@ qint64 DiskFile::size()
     return end;
 }
 
-QByteArray DiskFile::firstSector()
+QByteArray DiskFile::read(qint64 offset, qint64 size)
 {
-    std::array<char, sectorSize> sector{};
+    QByteArray bytes(static_cast<int>(size), '\0');
     errno = 0;
-    if (::pread(descriptor, sector.data(), sector.size(), 0) == sectorSize)
-        return {sector.data(), sectorSize};
+    if (::pread(descriptor, bytes.data(), static_cast<size_t>(size), offset) == size)
+        return bytes;
     fail(QStringLiteral("cannot be read"));
     return {};
 }
 
-bool DiskFile::writeFirstSector(const QByteArray& sector)
+bool DiskFile::write(qint64 offset, const QByteArray& bytes)
 {
-    std::array<char, sectorSize> bytes{};
-    std::copy_n(sector.cbegin(), std::min(sector.size(), sectorSize), bytes.begin());
     errno = 0;
-    if (sector.size() != sectorSize ||
-        ::pwrite(descriptor, bytes.data(), bytes.size(), 0) != sectorSize ||
-        ::fsync(descriptor) != 0) {
+    if (::pwrite(descriptor, bytes.constData(), static_cast<size_t>(bytes.size()), offset) ==
+        bytes.size())
+        return true;
+    fail(QStringLiteral("cannot be written"));
+    return false;
+}
+
+bool DiskFile::flush()
+{
+    errno = 0;
+    if (::fsync(descriptor) != 0) {
         fail(QStringLiteral("cannot be written"));
         return false;
     }
+#ifdef __APPLE__
+    // Not every stick knows this; the raw node holds nothing back itself.
+    ::ioctl(descriptor, DKIOCSYNCHRONIZECACHE);
+#else
     // What is read next comes from the device, not from memory.
     ::posix_fadvise(descriptor, 0, 0, POSIX_FADV_DONTNEED);
+#endif
     return true;
+}
+
+QByteArray DiskFile::firstSector()
+{
+    return read(0, sectorSize);
+}
+
+bool DiskFile::writeFirstSector(const QByteArray& sector)
+{
+    if (sector.size() != sectorSize) {
+        errno = 0;
+        fail(QStringLiteral("cannot be written"));
+        return false;
+    }
+    return write(0, sector) && flush();
 }
 
 void DiskFile::fail(const QString& what)

@@ -32,8 +32,17 @@ public:
     // limitMs milliseconds for another who holds it.
     bool lock(int limitMs);
 
-    // Size in bytes, -1 on failure.
+    // Size in bytes, -1 on failure. The raw nodes of macOS do not know theirs and tell 0.
     qint64 size();
+
+    // That many bytes from that offset on, empty on failure. Raw nodes want whole sectors.
+    QByteArray read(qint64 offset, qint64 size);
+
+    // Writes bytes; they are on the device only after flush().
+    bool write(qint64 offset, const QByteArray& bytes);
+
+    // Makes sure that the device has what was written, and that it is what is read next.
+    bool flush();
 
     // The first sector (sectorSize bytes), empty on failure.
     QByteArray firstSector();

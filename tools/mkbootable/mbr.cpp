@@ -3,7 +3,7 @@
 
 #include "mbr.h"
 
-#include <QtEndian>
+#include "bytes.h"
 
 #include <algorithm>
 #include <array>
@@ -19,21 +19,6 @@ constexpr char active = '\x80';
 
 constexpr std::array<quint8, 5> fatTypes = {0x04, 0x06, 0x0b, 0x0c, 0x0e};
 constexpr quint8 gptType = 0xee;
-
-quint8 byteAt(const QByteArray& sector, int offset)
-{
-    return static_cast<quint8>(sector.at(offset));
-}
-
-quint16 wordAt(const QByteArray& sector, int offset)
-{
-    return qFromLittleEndian<quint16>(sector.constData() + offset);
-}
-
-quint32 dwordAt(const QByteArray& sector, int offset)
-{
-    return qFromLittleEndian<quint32>(sector.constData() + offset);
-}
 
 bool hasSignature(const QByteArray& sector)
 {
@@ -93,6 +78,11 @@ QString fatRefusal(const QByteArray& sector)
         !isPowerOfTwo(byteAt(sector, 13)))
         return refused;
     return {};
+}
+
+qint64 firstPartitionStart(const QByteArray& sector)
+{
+    return qint64(dwordAt(sector, entryAt(0) + 8)) * sectorSize;
 }
 
 QByteArray bootableMbr(const QByteArray& sector, const QByteArray& bootCode)

@@ -21,6 +21,9 @@ QString mbrRefusal(const QByteArray& sector, qint64 diskSize);
 // Why this is not the first sector of a FAT16 or FAT32 file system; empty when it is.
 QString fatRefusal(const QByteArray& sector);
 
+// Where the first partition begins, in bytes, of an MBR that is not refused.
+qint64 firstPartitionStart(const QByteArray& sector);
+
 // The sector with that boot code (at most bootCodeSize bytes, the rest is filled with zeros) and
 // with the first partition, and only it, active. Nothing else changes. Empty when the sector or the
 // code has not the right size.
