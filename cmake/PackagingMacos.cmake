@@ -28,6 +28,14 @@ if(TARGET mkbootable)
   set(mkbootable_command
     COMMAND ${CMAKE_COMMAND} -E copy_if_different $<TARGET_FILE:mkbootable> ${contents}/MacOS)
 endif()
+# mkbootable installs the boot loader of USB disks from there and says which file is missing:
+# mbr.bin, ldlinux.sys, ldlinux.bss, ldlinux.c32, libcom32.c32, libutil.c32, chain.c32.
+set(KORVEX_BOOT_LOADER "" CACHE PATH "Folder with the boot loader's files for USB disks")
+set(boot_loader_command "")
+if(KORVEX_BOOT_LOADER)
+  set(boot_loader_command
+    COMMAND ${CMAKE_COMMAND} -E copy_directory ${KORVEX_BOOT_LOADER} ${contents}/MacOS/syslinux)
+endif()
 
 add_custom_target(bundle ALL
   COMMAND ${CMAKE_COMMAND} -E make_directory
@@ -39,6 +47,7 @@ add_custom_target(bundle ALL
   COMMAND ${CMAKE_COMMAND} -E copy_directory ${KORVEX_BIN_DIR}/translations
           ${contents}/MacOS/translations
   ${mkbootable_command}
+  ${boot_loader_command}
   ${icon_command}
   VERBATIM)
 add_dependencies(bundle korvex-iso-editor translations)

@@ -86,18 +86,18 @@ qint64 FatImage::freeBytes() const
 void FatImage::scatterFreeSpace(int freeClusters) const
 {
     QStringList files;
-    QStringList names;
     QStringList everyOther;
     for (int number = 0; number < 2 * freeClusters; ++number) {
         const QString name = QStringLiteral("f%1").arg(number);
         files << folder.filePath(name);
         writeFile(files.last(), QByteArray(clusterSize, 'f'));
         if (number % 2 == 0)
-            everyOther << name;
+            everyOther << "gaps/" + name;
     }
-    runOrStop("mcopy", QStringList{"-i", path()} + files + QStringList{"::"});
+    runOrStop("mmd", {"-i", path(), "::gaps"});
+    runOrStop("mcopy", QStringList{"-i", path()} + files + QStringList{"::gaps"});
     // All else is taken, so that new files have to go into the gaps.
-    put("rest", QByteArray(static_cast<int>(freeBytes()), 'r'));
+    put("gaps/rest", QByteArray(static_cast<int>(freeBytes()), 'r'));
     remove(everyOther);
 }
 

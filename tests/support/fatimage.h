@@ -24,7 +24,8 @@ public:
     QByteArray file(const QString& name) const;
     void remove(const QStringList& names) const;
 
-    // Leaves that many clusters free, no two of which lie together.
+    // Leaves that many clusters free, no two of which lie together; what is between them is below
+    // the folder "gaps".
     void scatterFreeSpace(int freeClusters) const;
 
     // Has the boot loader's own installer install it.

@@ -4,6 +4,7 @@
 #include "bootabledisk.h"
 #include "bootfiles.h"
 #include "imagedisk.h"
+#include "macimagedisk.h"
 #include "mbr.h"
 #include "testcase.h"
 #include "testfiles.h"
@@ -22,6 +23,8 @@ private slots:
     void bootsTheImage_data();
     void bootsTheImage();
     void saysWhatIsMissing();
+    void bootsTheImageOfOurOwnInstaller_data();
+    void bootsTheImageOfOurOwnInstaller();
 };
 
 namespace
@@ -116,6 +119,39 @@ void TstBootedDisk::saysWhatIsMissing()
     writeFile(stick.mountPoint() + "/syslinux.cfg", bootMenu);
     putTogether(stick);
     const QString text = "Couldn't read the boot file";
+    const QString screen = VirtualPc(stick.disk()).screenWith(text, bootLimitMs);
+    QVERIFY2(screen.contains(text), qPrintable(screen));
+}
+
+void TstBootedDisk::bootsTheImageOfOurOwnInstaller_data()
+{
+    QTest::addColumn<int>("fatBits");
+    QTest::addColumn<int>("sectorsPerCluster");
+    QTest::addColumn<int>("megabytesOfDisk");
+    QTest::addColumn<int>("gaps");
+    QTest::newRow("FAT16, 2 KiB") << 16 << 4 << 40 << 0;
+    QTest::newRow("FAT16, 16 KiB") << 16 << 32 << 100 << 0;
+    QTest::newRow("FAT16, scattered") << 16 << 2 << 20 << 800;
+    QTest::newRow("FAT32, 512 bytes") << 32 << 1 << 40 << 0;
+    QTest::newRow("FAT32, 1 KiB") << 32 << 2 << 80 << 0;
+    QTest::newRow("FAT32, scattered") << 32 << 1 << 40 << 1600;
+}
+
+void TstBootedDisk::bootsTheImageOfOurOwnInstaller()
+{
+    QFETCH(int, fatBits);
+    QFETCH(int, sectorsPerCluster);
+    QFETCH(int, megabytesOfDisk);
+    QFETCH(int, gaps);
+    const FatImage fileSystem(fatBits, sectorsPerCluster, megabytesOfDisk);
+    if (gaps > 0)
+        fileSystem.scatterFreeSpace(gaps);
+    const MacImageDisk stick(fileSystem);
+    QStringList said;
+    QCOMPARE(MacBootableDisk(stick.setup(&said)).make(), QString());
+    const QByteArray text = QByteArray(QTest::currentDataTag()) + " runs";
+    stick.put("syslinux.cfg", bootMenu);
+    stick.put("bootmgr", bootManager(text));
     const QString screen = VirtualPc(stick.disk()).screenWith(text, bootLimitMs);
     QVERIFY2(screen.contains(text), qPrintable(screen));
 }

@@ -7,10 +7,11 @@
 #include "diskrefusal.h"
 #include "lsblk.h"
 #include "mbr.h"
+#include "modules.h"
 #include "programrun.h"
+#include "steps.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 namespace
@@ -22,29 +23,6 @@ constexpr int commandLimitMs = 300000;
 constexpr int lockLimitMs = 10000;
 constexpr int mountTries = 3;
 
-// Replaces the file in the folder and compares what has arrived.
-QString copyInto(const QString& source, const QString& folder)
-{
-    const QString target = folder + '/' + QFileInfo(source).fileName();
-    QFile from(source);
-    QFile to(target);
-    if (!from.open(QIODevice::ReadOnly))
-        return QStringLiteral("%1: %2").arg(source, from.errorString());
-    const QByteArray content = from.readAll();
-    if (!to.open(QIODevice::ReadWrite | QIODevice::Truncate) ||
-        to.write(content) != content.size() || !to.flush())
-        return QStringLiteral("%1: %2").arg(target, to.errorString());
-    if (!to.seek(0) || to.readAll() != content)
-        return QStringLiteral("%1 is not what was written").arg(target);
-    return {};
-}
-
-QByteArray fileContent(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 } // namespace
 
 BootableDisk::BootableDisk(const Setup& settings)
@@ -54,33 +32,23 @@ BootableDisk::BootableDisk(const Setup& settings)
 
 QString BootableDisk::make()
 {
-    struct Step
-    {
-        QString name;
-        QString (BootableDisk::*run)();
+    const auto step = [this](const QString& name, QString (BootableDisk::*run)()) {
+        return Step{name, [this, run] { return (this->*run)(); }};
     };
     const QString partition = ::partitionPath(setup.request.disk, 1);
-    const Step steps[] = {
-        {QStringLiteral("Checking %1").arg(setup.request.disk), &BootableDisk::look},
-        {QStringLiteral("Unmounting %1").arg(partition), &BootableDisk::unmount},
-        {QStringLiteral("Writing the boot code to %1").arg(setup.request.disk),
-         &BootableDisk::writeBootCode},
-        {QStringLiteral("Installing the boot loader on %1").arg(partition),
-         &BootableDisk::installBootLoader},
-        {QStringLiteral("Mounting %1 at %2").arg(partition, setup.request.mountPoint),
-         &BootableDisk::mount},
-        {QStringLiteral("Copying the boot loader's modules"), &BootableDisk::copyModules},
-        {QStringLiteral("Writing everything out"), &BootableDisk::writeOut},
+    const QVector<Step> steps{
+        step(QStringLiteral("Checking %1").arg(setup.request.disk), &BootableDisk::look),
+        step(QStringLiteral("Unmounting %1").arg(partition), &BootableDisk::unmount),
+        step(QStringLiteral("Writing the boot code to %1").arg(setup.request.disk),
+             &BootableDisk::writeBootCode),
+        step(QStringLiteral("Installing the boot loader on %1").arg(partition),
+             &BootableDisk::installBootLoader),
+        step(QStringLiteral("Mounting %1 at %2").arg(partition, setup.request.mountPoint),
+             &BootableDisk::mount),
+        step(QStringLiteral("Copying the boot loader's modules"), &BootableDisk::copyModules),
+        step(QStringLiteral("Writing everything out"), &BootableDisk::writeOut),
     };
-    for (const Step& step : steps) {
-        if (setup.stopped && *setup.stopped)
-            return QStringLiteral("Stopped before: %1").arg(step.name);
-        setup.say(step.name);
-        const QString error = (this->*step.run)();
-        if (!error.isEmpty())
-            return QStringLiteral("%1 failed: %2").arg(step.name, error);
-    }
-    return {};
+    return runSteps(steps, setup.say, setup.stopped);
 }
 
 QString BootableDisk::look()
@@ -231,20 +199,7 @@ QString BootableDisk::mount()
 
 QString BootableDisk::copyModules()
 {
-    const QString root = setup.request.mountPoint;
-    const QString folder = root + QStringLiteral("/syslinux");
-    if (!QDir().mkpath(folder))
-        return QStringLiteral("%1 cannot be created").arg(folder);
-    QString error;
-    for (const QString& module : qAsConst(setup.bootFiles.modules)) {
-        if (error.isEmpty())
-            error = copyInto(module, folder);
-    }
-    for (const QString& library : qAsConst(setup.bootFiles.libraries)) {
-        if (error.isEmpty())
-            error = copyInto(library, root);
-    }
-    return error;
+    return ::copyModules(setup.bootFiles, setup.request.mountPoint);
 }
 
 QString BootableDisk::writeOut()

@@ -4,6 +4,7 @@
 #include "bootfiles.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <array>
 
@@ -48,4 +49,26 @@ BootFiles findBootFiles(const QString& root)
     none.error = QStringLiteral("The boot loader's files are not installed (package "
                                 "syslinux-common)");
     return none;
+}
+
+BootFiles shippedBootFiles(const QString& folder)
+{
+    const QString home = folder + '/';
+    BootFiles files;
+    files.bootCode = home + QStringLiteral("mbr.bin");
+    files.loader = home + QStringLiteral("ldlinux.sys");
+    files.bootSector = home + QStringLiteral("ldlinux.bss");
+    for (const char* name : libraryNames)
+        files.libraries.append(home + QLatin1String(name));
+    files.modules = files.libraries;
+    files.modules.append(home + QLatin1String(chainLoader));
+    // The loader's other half, which installers elsewhere put beside it.
+    files.libraries.append(home + QStringLiteral("ldlinux.c32"));
+    const QStringList needed = files.modules + QStringList{files.libraries.last(), files.bootCode,
+                                                           files.loader, files.bootSector};
+    for (const QString& path : needed) {
+        if (files.error.isEmpty() && !QFileInfo(path).isFile())
+            files.error = QStringLiteral("The boot loader's file %1 is missing").arg(path);
+    }
+    return files;
 }

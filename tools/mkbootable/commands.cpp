@@ -35,3 +35,13 @@ QStringList mountArguments(const QString& partition, const QString& mountPoint, 
             partition,
             mountPoint};
 }
+
+QStringList diskutilMountArguments(const QString& partition, const QString& mountPoint)
+{
+    return {QStringLiteral("mount"), QStringLiteral("-mountPoint"), mountPoint, partition};
+}
+
+QStringList diskutilUnmountDiskArguments(const QString& disk)
+{
+    return {QStringLiteral("unmountDisk"), disk};
+}

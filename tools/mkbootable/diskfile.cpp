@@ -91,8 +91,9 @@ bool DiskFile::flush()
         return false;
     }
 #ifdef __APPLE__
-    // Not every stick knows this; the raw node holds nothing back itself.
-    ::ioctl(descriptor, DKIOCSYNCHRONIZECACHE);
+    // The raw node holds nothing back itself. The stick may, and not every one knows this order.
+    dk_synchronize_t everything = {};
+    ::ioctl(descriptor, DKIOCSYNCHRONIZE, &everything);
 #else
     // What is read next comes from the device, not from memory.
     ::posix_fadvise(descriptor, 0, 0, POSIX_FADV_DONTNEED);

@@ -1,9 +1,7 @@
 // Copyright (c) 2026 The Korvex ISO Editor developers
 // SPDX-License-Identifier: MIT
 
-#include "bootabledisk.h"
-#include "bootfiles.h"
-#include "request.h"
+#include "makebootable.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
@@ -13,6 +11,9 @@
 #include <cstdlib>
 #include <sys/stat.h>
 #include <unistd.h>
+
+// Not every system's headers have it.
+extern char** environ;
 
 namespace
 {
@@ -28,7 +29,8 @@ void stop(int)
 // caller has set reaches them.
 void secureEnvironment()
 {
-    ::clearenv();
+    static char* none[] = {nullptr};
+    environ = none;
     qputenv("PATH", "/usr/sbin:/usr/bin:/sbin:/bin");
     qputenv("LC_ALL", "C.UTF-8");
 }
@@ -50,26 +52,24 @@ int fail(const QString& why)
 } // namespace
 
 // mkbootable DISK MOUNT-POINT: makes the disk boot what its first partition holds and leaves that
-// partition mounted there. See BootableDisk.
+// partition mounted there. See makeBootable().
 int main(int argc, char* argv[])
 {
-    BootableDisk::Setup setup;
-    setup.user = idFrom("SUDO_UID");
-    setup.group = idFrom("SUDO_GID");
+    Order order;
+    order.user = idFrom("SUDO_UID");
+    order.group = idFrom("SUDO_GID");
     secureEnvironment();
     ::umask(022);
     const QCoreApplication app(argc, argv);
-    setup.request = readRequest(app.arguments().mid(1));
-    if (!setup.request.error.isEmpty())
-        return fail(setup.request.error);
+    order.request = readRequest(app.arguments().mid(1));
+    if (!order.request.error.isEmpty())
+        return fail(order.request.error);
     if (::geteuid() != 0)
         return fail(QStringLiteral("Only root can make a disk bootable"));
-    setup.bootFiles = findBootFiles(QStringLiteral("/"));
-    setup.say = [](const QString& line) { QTextStream(stdout) << line << '\n'; };
-    setup.stopped = &stopped;
+    order.say = [](const QString& line) { QTextStream(stdout) << line << '\n'; };
+    order.stopped = &stopped;
     for (const int signal : {SIGINT, SIGTERM, SIGHUP})
         std::signal(signal, stop);
-    BootableDisk disk(setup);
-    const QString error = disk.make();
+    const QString error = makeBootable(order);
     return error.isEmpty() ? EXIT_SUCCESS : fail(error);
 }
