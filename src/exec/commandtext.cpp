@@ -26,7 +26,7 @@ QByteArray readUntilEnd(QProcess& process, int limit)
     QByteArray output;
     const QDeadlineTimer deadline(limit);
     while (process.state() != QProcess::NotRunning && !deadline.hasExpired() &&
-           output.size() < mostOutput) {
+           (limit < 0 || output.size() < mostOutput)) {
         process.waitForReadyRead(static_cast<int>(deadline.remainingTime()));
         output += process.readAllStandardOutput();
     }

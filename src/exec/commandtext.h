@@ -22,8 +22,8 @@ enum class Overdue
 // Runs a command text, split at blanks with double quotes grouping, and returns its standard output
 // up to the first zero byte; standard error is dropped. With input the tool reads that and then the
 // end of its standard input. A tool that cannot be started gives an empty result. One that is still
-// running after limit milliseconds (-1: no limit), or that has printed more than a text can hold
-// that anybody reads, is overdue.
+// running after limit milliseconds (-1: no limit), or by then has printed far more than anybody
+// would read, is overdue.
 QByteArray runCommandText(const QString& command, const std::optional<QByteArray>& input = {},
                           int limit = -1, Overdue overdue = Overdue::Drop);
 

@@ -171,7 +171,7 @@ void TstCPage5Finish::twoPagesCopyOneAfterTheOther()
     QTRY_COMPARE(list->count(), 2);
     list->setCurrentIndex(1);
     other.findChild<QLineEdit*>("lineEdit")->setText("/tmp/other.iso");
-    QCOMPARE(answerMessage([&] { other.OnStart(); }, "btnok", {}), copySuccess());
+    QCOMPARE(fixture->answerMessage([&] { other.OnStart(); }, "btnok", {}), copySuccess());
     QCOMPARE(currdev, QString("/dev/disk7"));
     QCOMPARE(scenario->callsOf("hdiutil").last(),
              imageArguments("/tmp/other.iso", "/Volumes/OTHER"));

@@ -65,9 +65,9 @@ void UsbWriteFixture::writePrompt(const QString& name, const QByteArray& passwor
     writeScript(promptPath(name), "echo '" + password + "'\n");
 }
 
-QStringList UsbWriteFixture::write() const
+QStringList UsbWriteFixture::write(int dialogLimitMs) const
 {
-    ModalDriver driver;
+    ModalDriver driver(dialogLimitMs);
     driver.press("CommDialog", "btnok");
     driver.press("CommDialog", "btnok");
     press("burn");

@@ -39,7 +39,8 @@ public:
     static void writePrompt(const QString& name, const QByteArray& password = "secret");
 
     // Presses Burn, says yes and closes the message at the end. Returns the texts of both dialogs.
-    QStringList write() const;
+    // The limit is for the coming of each.
+    QStringList write(int dialogLimitMs = 10000) const;
     // The commands of the burns so far, in order, without those that filled the lists.
     QList<QStringList> commands() const;
     QList<DriveCall> calls() const;

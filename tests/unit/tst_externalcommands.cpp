@@ -31,6 +31,8 @@ private slots:
     void floodOnBothChannelsIsReadToItsEnd();
     void toolThatReadsIsNotGivenAnEndOfInput();
     void childLeftBehindIsNotWaitedFor();
+    void overdueToolIsKilledAndItsOutputDroppedOrKept();
+    void floodUpToTheLimitIsCutOff();
 
     void inputIsFed_data();
     void inputIsFed();
@@ -196,6 +198,21 @@ void TstExternalCommands::childLeftBehindIsNotWaitedFor()
     const int child = Util::callexternapp(tool, {}).trimmed().toInt();
     QVERIFY(child > 1);
     QCOMPARE(::kill(child, SIGKILL), 0);
+}
+
+void TstExternalCommands::overdueToolIsKilledAndItsOutputDroppedOrKept()
+{
+    const QString tool = script("echo first; echo other >&2; exec sleep 60");
+    QCOMPARE(runCommandText('"' + tool + '"', {}, 1000), QByteArray());
+    QCOMPARE(runCommandText('"' + tool + '"', {}, 1000, Overdue::Keep), QByteArray("first\n"));
+}
+
+void TstExternalCommands::floodUpToTheLimitIsCutOff()
+{
+    const QByteArray output =
+        runCommandText('"' + script("exec yes") + '"', {}, 60000, Overdue::Keep);
+    QVERIFY(output.startsWith("y\ny\n"));
+    QVERIFY2(output.size() < 100 << 20, qPrintable(QString::number(output.size())));
 }
 
 void TstExternalCommands::inputIsFed_data()
