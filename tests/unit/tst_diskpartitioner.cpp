@@ -1,9 +1,8 @@
 // Copyright (c) 2026 The Korvex ISO Editor developers
 // SPDX-License-Identifier: MIT
 
+#include "diskmachine.h"
 #include "diskpartitioner.h"
-#include "diskutil.h"
-#include "rootvolumes.h"
 #include "standins.h"
 #include "testcase.h"
 #include "testfiles.h"
@@ -38,54 +37,7 @@ private slots:
 namespace
 {
 
-const char* const noPartition = R"({"blockdevices":[{"path":"/dev/sdb","type":"disk",
- "size":31914983424,"rm":true,"tran":"usb","ro":false,"model":"Cruzer","serial":"1"}]})";
-const char* const onePartition = R"({"blockdevices":[{"path":"/dev/sdb","type":"disk",
- "size":31914983424,"rm":true,"tran":"usb","ro":false,"model":"Cruzer","serial":"1","children":
- [{"path":"/dev/sdb1","type":"part","size":31913934848,"fstype":"vfat","label":"X"}]}]})";
-
 const QStringList arguments = partitionDiskArguments("/dev/sdb", "FAT32", "WIN 10", 31914983424);
-
-// The tools of one run. What lsblk answers at its first, second, … call are the files answer1,
-// answer2, …, the last of them from then on.
-class Machine
-{
-public:
-    explicit Machine(const QList<QByteArray>& answers)
-        : volumes(tools.filePath("media"), tools.filePath("images"))
-    {
-        const QByteArray data = QFile::encodeName(tools.filePath(""));
-        for (int i = 0; i < answers.size(); ++i)
-            writeFile(tools.filePath(QString("answer%1").arg(i + 1)), answers[i]);
-        tools.add("lsblk", "cd '" + data +
-                               "'; echo x >>asked; n=$(grep -c x asked); "
-                               "while [ ! -e answer$n ]; do n=$((n-1)); done; cat answer$n");
-        tools.add("sfdisk", "cat >'" + data + "table'");
-        for (const char* const name : {"udevadm", "mkfs.vfat", "mount", "umount"})
-            tools.add(name);
-    }
-
-    // What a call says, its exit code last.
-    QStringList run(const QStringList& words)
-    {
-        int code = -1;
-        const QStringList lines = spokenLines([&] { code = diskutilTool(words, volumes); });
-        return lines + QStringList(QString::number(code));
-    }
-
-    // The calls but for those of lsblk.
-    QStringList changes() const
-    {
-        QStringList found;
-        for (const QString& call : tools.calls())
-            if (!call.startsWith("lsblk|"))
-                found << call;
-        return found;
-    }
-
-    StandIns tools;
-    RootVolumes volumes;
-};
 
 QByteArray changed(const char* answer, const char* from, const char* to)
 {
@@ -96,41 +48,41 @@ QByteArray changed(const char* answer, const char* from, const char* to)
 
 void TstDiskPartitioner::diskBecomesOneVolume()
 {
-    Machine machine({noPartition, noPartition, onePartition});
+    DiskMachine machine({noPartition, noPartition, onePartition});
     QCOMPARE(machine.run(arguments).mid(0, 7),
              QStringList({"Started partitioning on sdb", "Unmounting disk",
                           "Creating the partition map", "Waiting for partitions to activate",
-                          "Formatting sdb1 as MS-DOS (FAT32) with name WIN_10", "Mounting disk",
+                          "Formatting sdb1 as MS-DOS (FAT32) with name WIN 10", "Mounting disk",
                           "Finished partitioning on sdb"}));
     const QStringList changes = machine.changes();
     QCOMPARE(changes.mid(0, 3),
              QStringList({"sfdisk|--lock=yes|--wipe|always|--wipe-partitions|always|--|/dev/sdb",
-                          "udevadm|settle|--timeout=10", "mkfs.vfat|-F|32|-n|WIN_10|/dev/sdb1"}));
+                          "udevadm|settle|--timeout=10", "mkfs.vfat|-F|32|-n|WIN 10|/dev/sdb1"}));
     QCOMPARE(changes.size(), 4);
     QVERIFY(changes[3].startsWith("mount|-t|vfat|-o|rw,nosuid,nodev,"));
-    QVERIFY(changes[3].endsWith("|--|/dev/sdb1|" + machine.tools.filePath("media/WIN_10")));
+    QVERIFY(changes[3].endsWith("|--|/dev/sdb1|" + machine.tools.filePath("media/WIN 10")));
     QCOMPARE(readFile(machine.tools.filePath("table")),
              QByteArray("label: dos\nstart=1MiB, type=0c\n"));
 }
 
 void TstDiskPartitioner::smallDiskBecomesFat16()
 {
-    Machine machine({changed(noPartition, "31914983424", "4294967295"),
-                     changed(noPartition, "31914983424", "4294967295"),
-                     changed(onePartition, "31914983424", "4294967295")});
+    DiskMachine machine({changed(noPartition, "31914983424", "4294967295"),
+                         changed(noPartition, "31914983424", "4294967295"),
+                         changed(onePartition, "31914983424", "4294967295")});
     const QStringList words = partitionDiskArguments("/dev/sdb", "FAT", "WIN 10", 4294967295);
-    QVERIFY(machine.run(words).contains("Formatting sdb1 as MS-DOS (FAT16) with name WIN_10"));
-    QVERIFY(machine.changes().contains("mkfs.vfat|-F|16|-n|WIN_10|/dev/sdb1"));
+    QVERIFY(machine.run(words).contains("Formatting sdb1 as MS-DOS (FAT16) with name WIN 10"));
+    QVERIFY(machine.changes().contains("mkfs.vfat|-F|16|-n|WIN 10|/dev/sdb1"));
     QCOMPARE(readFile(machine.tools.filePath("table")),
              QByteArray("label: dos\nstart=1MiB, type=0e\n"));
 }
 
 void TstDiskPartitioner::mountFolderOfThatNameIsLeftAlone()
 {
-    Machine machine({noPartition, noPartition, onePartition});
-    writeFile(machine.tools.filePath("media/WIN_10/file"), "x");
+    DiskMachine machine({noPartition, noPartition, onePartition});
+    writeFile(machine.tools.filePath("media/WIN 10/file"), "x");
     QCOMPARE(machine.run(arguments).last(), QString("0"));
-    QVERIFY(machine.changes().last().endsWith(machine.tools.filePath("media/WIN_101")));
+    QVERIFY(machine.changes().last().endsWith(machine.tools.filePath("media/WIN 101")));
 }
 
 void TstDiskPartitioner::refusedBeforeAnythingIsWritten_data()
@@ -169,7 +121,7 @@ void TstDiskPartitioner::refusedBeforeAnythingIsWritten()
     QFETCH(QByteArray, answer);
     QFETCH(QStringList, words);
     QFETCH(QString, message);
-    Machine machine({answer});
+    DiskMachine machine({answer});
     QCOMPARE(machine.run(words), QStringList({message, "1"}));
     QCOMPARE(machine.changes(), QStringList());
 }
@@ -177,8 +129,9 @@ void TstDiskPartitioner::refusedBeforeAnythingIsWritten()
 void TstDiskPartitioner::otherDiskOfThatNameIsNotWritten()
 {
     for (const char* const field : {"\"serial\":\"1\"", "\"model\":\"Cruzer\""}) {
-        Machine machine({noPartition, changed(noPartition, field,
-                                              QByteArray(field).replace(':', ":\"x\",\"y\":"))});
+        DiskMachine machine(
+            {noPartition,
+             changed(noPartition, field, QByteArray(field).replace(':', ":\"x\",\"y\":"))});
         QCOMPARE(machine.run(arguments).mid(2),
                  QStringList({"Error: /dev/sdb is another disk now", "1"}));
         QCOMPARE(machine.changes(), QStringList());
@@ -187,7 +140,7 @@ void TstDiskPartitioner::otherDiskOfThatNameIsNotWritten()
 
 void TstDiskPartitioner::diskThatIsMountedAsSystemMeanwhileIsNotWritten()
 {
-    Machine machine(
+    DiskMachine machine(
         {onePartition, changed(onePartition, "\"fstype\"", R"("mountpoints":["/var"],"fstype")")});
     QCOMPARE(
         machine.run(arguments).mid(2),
@@ -197,14 +150,14 @@ void TstDiskPartitioner::diskThatIsMountedAsSystemMeanwhileIsNotWritten()
 
 void TstDiskPartitioner::otherDiskOfThatNameIsNotFormatted()
 {
-    Machine machine({noPartition, noPartition, changed(onePartition, "Cruzer", "Backup")});
+    DiskMachine machine({noPartition, noPartition, changed(onePartition, "Cruzer", "Backup")});
     QVERIFY(machine.run(arguments).contains("Error: /dev/sdb is another disk now"));
     QCOMPARE(machine.changes().filter("mkfs"), QStringList());
 }
 
 void TstDiskPartitioner::partitionThatNeverAppears()
 {
-    Machine machine({noPartition});
+    DiskMachine machine({noPartition});
     DiskPartitioner partitioner(machine.volumes);
     partitioner.setPatience(1);
     int code = -1;
@@ -231,7 +184,7 @@ void TstDiskPartitioner::failedStepEndsTheWork()
 {
     QFETCH(QString, tool);
     QFETCH(QString, message);
-    Machine machine({noPartition, noPartition, onePartition});
+    DiskMachine machine({noPartition, noPartition, onePartition});
     machine.tools.add(tool, "echo no >&2; exit 3");
     const QStringList lines = machine.run(arguments);
     QCOMPARE(lines.mid(lines.size() - 2), QStringList({message, "1"}));
@@ -242,10 +195,10 @@ void TstDiskPartitioner::failedStepEndsTheWork()
 
 void TstDiskPartitioner::unmountSays()
 {
-    Machine machine({onePartition});
+    DiskMachine machine({onePartition});
     QCOMPARE(machine.run({"unmountDisk", "/dev/sdb"}),
              QStringList({"Unmount of all volumes on sdb was successful", "0"}));
-    Machine builtIn({changed(onePartition, "\"usb\"", "\"sata\"")});
+    DiskMachine builtIn({changed(onePartition, "\"usb\"", "\"sata\"")});
     QCOMPARE(builtIn.run({"unmountDisk", "/dev/sdb"}),
              QStringList({"Unmount of sdb failed: /dev/sdb is neither a USB disk nor a removable "
                           "one",
@@ -270,7 +223,7 @@ void TstDiskPartitioner::argumentsHaveToBeTheProgramsOwn_data()
 void TstDiskPartitioner::argumentsHaveToBeTheProgramsOwn()
 {
     QFETCH(QStringList, words);
-    Machine machine({noPartition});
+    DiskMachine machine({noPartition});
     const QStringList lines = machine.run(words);
     QVERIFY(lines.first().startsWith("Usage: diskutil "));
     QCOMPARE(lines.last(), QString("1"));

@@ -57,8 +57,8 @@ void TstFatVolume::labels_data()
                                 << "STICK";
     QTest::newRow("eleven") << "ABCDEFGHIJK"
                             << "ABCDEFGHIJK";
-    QTest::newRow("blank becomes an underscore") << "MY STICK"
-                                                 << "MY_STICK";
+    QTest::newRow("blanks stay blanks") << "MY  STICK A"
+                                        << "MY  STICK A";
     QTest::newRow("signs that FAT knows") << "-A!#$%&'()@"
                                           << "-A!#$%&'()@";
 }

@@ -4,6 +4,7 @@
 #include "discburncommand.h"
 #include "hdiutil.h"
 #include "imagemount.h"
+#include "imagenote.h"
 #include "rootvolumes.h"
 #include "standins.h"
 #include "testcase.h"
@@ -22,6 +23,7 @@ private slots:
     void imageThatCannotBeMounted_data();
     void imageThatCannotBeMounted();
     void failedMountLeavesNoFolder();
+    void imageIsNotedEvenIfItCannotBeMounted();
     void programFindsTheMountPoint_data();
     void programFindsTheMountPoint();
     void pathIsGluedToTheVerb_data();
@@ -107,7 +109,19 @@ void TstHdiutil::failedMountLeavesNoFolder()
     QVERIFY(lines.first().startsWith("hdiutil: mount failed - "));
     QVERIFY(lines.first().endsWith("mount: unknown filesystem type."));
     QCOMPARE(lines.last(), QString("1"));
-    QCOMPARE(entriesOf(machine.tools.filePath("images")), QStringList());
+    QCOMPARE(QDir(machine.tools.filePath("images")).entryList({"image-*"}), QStringList());
+}
+
+void TstHdiutil::imageIsNotedEvenIfItCannotBeMounted()
+{
+    Machine machine;
+    machine.tools.add("mount", "exit 32");
+    const QString image = machine.tools.filePath("x.iso");
+    writeFile(image, "x");
+    const QString link = machine.tools.filePath("link.iso");
+    QVERIFY(QFile::link(image, link));
+    machine.run({"mount", link});
+    QCOMPARE(takeImageNote(machine.volumes.sessionFolder()), QFileInfo(image).canonicalFilePath());
 }
 
 void TstHdiutil::programFindsTheMountPoint_data()

@@ -18,6 +18,8 @@ private slots:
     void otherLinesAreLeftOut();
     void everyLineOfTheRealTableIsRead();
     void uppermostVolumeIsFound();
+    void volumeThatHoldsAFile_data();
+    void volumeThatHoldsAFile();
     void programFindsTheMountPointOfADisc_data();
     void programFindsTheMountPointOfADisc();
 };
@@ -93,6 +95,39 @@ void TstMountedVolumes::uppermostVolumeIsFound()
     QCOMPARE(volumeMountedAt(table, "/m").source, QString("/dev/sda2"));
     QCOMPARE(volumeMountedAt(table, "/m/").source, QString());
     QCOMPARE(volumeMountedAt(table, "").source, QString());
+}
+
+void TstMountedVolumes::volumeThatHoldsAFile_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("source");
+    QTest::newRow("root") << "/x.iso"
+                          << "/dev/sda1";
+    QTest::newRow("stick") << "/media/u/A/folder/x.iso"
+                           << "/dev/sdb1";
+    QTest::newRow("the volume's own folder") << "/media/u/A"
+                                             << "/dev/sdb1";
+    QTest::newRow("begins like a mount point") << "/media/u/A B/x.iso"
+                                               << "/dev/sda1";
+    QTest::newRow("volume in a volume") << "/media/u/A/inner/x.iso"
+                                        << "/dev/sdc1";
+    QTest::newRow("hidden by a later one") << "/mnt/x.iso"
+                                           << "/dev/sde1";
+    QTest::newRow("nowhere") << "x.iso"
+                             << "";
+}
+
+void TstMountedVolumes::volumeThatHoldsAFile()
+{
+    QFETCH(QString, path);
+    const QList<MountedVolume> table = readMountTable("1 0 8:1 / / rw - ext4 /dev/sda1 rw\n"
+                                                      "2 1 8:33 / /media/u/A/inner rw - vfat "
+                                                      "/dev/sdc1 rw\n"
+                                                      "3 1 8:17 / /media/u/A rw - vfat /dev/sdb1 "
+                                                      "rw\n"
+                                                      "4 1 8:49 / /mnt rw - vfat /dev/sdd1 rw\n"
+                                                      "5 4 8:65 / /mnt rw - vfat /dev/sde1 rw\n");
+    QTEST(volumeHolding(table, path).source, "source");
 }
 
 void TstMountedVolumes::programFindsTheMountPointOfADisc_data()

@@ -71,7 +71,7 @@ DesktopVolumes::DesktopVolumes(const QDBusConnection& bus, const QString& folder
 {
 }
 
-QString DesktopVolumes::linkFolder() const
+QString DesktopVolumes::sessionFolder() const
 {
     if (!links.isEmpty())
         return links;
@@ -156,8 +156,8 @@ QString DesktopVolumes::pathWithoutBlanks(const QString& path, const QString& de
 {
     if (!path.contains(QRegularExpression("\\s")))
         return path;
-    const QString link = linkFolder() + '/' + deviceName(device);
-    QDir().mkpath(linkFolder());
+    const QString link = sessionFolder() + '/' + deviceName(device);
+    QDir().mkpath(sessionFolder());
     QFile::remove(link);
     return QFile::link(path, link) ? link : path;
 }
@@ -165,7 +165,7 @@ QString DesktopVolumes::pathWithoutBlanks(const QString& path, const QString& de
 QString DesktopVolumes::unmountImage(const QString& path, bool force)
 {
     const QString target = QFile::symLinkTarget(path);
-    const bool isLink = !target.isEmpty() && path.startsWith(linkFolder() + '/');
+    const bool isLink = !target.isEmpty() && path.startsWith(sessionFolder() + '/');
     const QString device = volumeMountedAt(mountTable(), isLink ? target : path).source;
     if (device.isEmpty())
         return "Nothing is mounted at " + path;

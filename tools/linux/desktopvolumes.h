@@ -14,10 +14,10 @@
 class DesktopVolumes : public VolumeService
 {
 public:
-    // linkFolder holds a link for every image whose mount point has white space in its name; it is
-    // a folder of the user's session when none is given.
+    // folder is the session's, which also holds a link for every image whose mount point has white
+    // space in its name; without one it is what the system has for that.
     explicit DesktopVolumes(const QDBusConnection& bus = QDBusConnection::systemBus(),
-                            const QString& linkFolder = {});
+                            const QString& folder = {});
 
     MountResult mountImage(const QString& image) override;
     QString unmountImage(const QString& path, bool force) override;
@@ -27,6 +27,7 @@ public:
     QString format(const QString& partition, const FatVolume& volume) override;
     bool choosesFatBits() const override { return true; }
     QString eject(const QString& device) override;
+    QString sessionFolder() const override;
 
     // How long a device that has just appeared is waited for, in milliseconds.
     void setPatience(int milliseconds) { patience = milliseconds; }
@@ -41,7 +42,6 @@ private:
     QString objectOf(const QString& device, QString* error) const;
     QVariant property(const QString& object, const char* interface, const char* name) const;
     MountResult mountObject(const QString& object, const QVariantMap& options) const;
-    QString linkFolder() const;
     QString pathWithoutBlanks(const QString& path, const QString& device) const;
 
     QDBusConnection connection;

@@ -6,7 +6,9 @@
 #include "devicename.h"
 #include "diskrefusal.h"
 #include "diskutiltext.h"
+#include "imagenote.h"
 #include "lsblk.h"
+#include "mountedvolumes.h"
 #include "printing.h"
 
 #include <QElapsedTimer>
@@ -119,6 +121,30 @@ QString DiskPartitioner::makeVolume(const BlockDevice& disk, const FatVolume& vo
     return error.isEmpty() ? QString() : "Error: " + error;
 }
 
+QString DiskPartitioner::objection(const BlockDevice& disk, const FatVolume& volume) const
+{
+    const QString image = takeImageNote(service.sessionFolder());
+    if (!image.isEmpty() && holdsVolume(disk, volumeHolding(mountTable(), image)))
+        return "Error: The image that is to be written lies on this disk: " + image;
+    if (disk.size > largestDisk)
+        return "Error creating partition map: The disk is too large to be supported by the given "
+               "partition scheme (-69659)";
+    if (volume.bits == 16 && disk.size > largestFat16)
+        return "Error: -69850: The chosen size is not valid for the chosen file system";
+    return {};
+}
+
+// The program goes on and writes to whatever is mounted of the disk. So nothing stays mounted.
+int DiskPartitioner::giveUp(const BlockDevice& disk, const QString& error)
+{
+    complain(error);
+    const BlockDevices now = blockDevices(disk.path);
+    const bool isSame = now.devices.size() == 1 && now.devices.first().isSameDisk(disk) &&
+                        refusal(now.devices.first()).isEmpty();
+    const QString left = isSame ? unmountEverything(now.devices.first(), service) : QString();
+    return left.isEmpty() ? 1 : complain("Error: -69888: Couldn't unmount disk: " + left);
+}
+
 int DiskPartitioner::partitionDisk(const QString& path, const FatVolume& volume)
 {
     if (!volume.refusal.isEmpty())
@@ -127,15 +153,13 @@ int DiskPartitioner::partitionDisk(const QString& path, const FatVolume& volume)
     const BlockDevice disk = judgedDisk(path, &error);
     if (!error.isEmpty())
         return complain("Error: " + error);
-    if (disk.size > largestDisk)
-        return complain("Error creating partition map: The disk is too large to be supported by "
-                        "the given partition scheme (-69659)");
-    if (volume.bits == 16 && disk.size > largestFat16)
-        return complain("Error: -69850: The chosen size is not valid for the chosen file system");
+    error = objection(disk, volume);
+    if (!error.isEmpty())
+        return giveUp(disk, error);
     say("Started partitioning on " + deviceName(path));
     error = makeVolume(disk, volume);
     if (!error.isEmpty())
-        return complain(error);
+        return giveUp(disk, error);
     say("Finished partitioning on " + deviceName(path));
     const BlockDevices now = blockDevices(path);
     for (const BlockDevice& device : now.devices)

@@ -31,7 +31,10 @@ private:
     QString checkStillSame(const BlockDevice& disk) const;
     // Waits until the disk has its first partition and names it.
     QString newPartition(const BlockDevice& disk, QString* error) const;
+    // What keeps the volume from being made on that disk, empty when nothing does.
+    QString objection(const BlockDevice& disk, const FatVolume& volume) const;
     QString makeVolume(const BlockDevice& disk, const FatVolume& volume);
+    int giveUp(const BlockDevice& disk, const QString& error);
 
     VolumeService& service;
     int patience = 15000;

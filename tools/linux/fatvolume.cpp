@@ -44,6 +44,5 @@ FatVolume fatVolumeFrom(const QString& fileSystem, const QString& name)
         volume.label = "NONAME";
     if (volume.refusal.isEmpty())
         volume.refusal = labelRefusal(volume.label);
-    volume.label.replace(' ', '_');
     return volume;
 }

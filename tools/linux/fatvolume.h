@@ -20,6 +20,5 @@ struct FatVolume
 };
 
 // The volume for the file system and the name as they are given to "diskutil partitionDisk". The
-// name is trimmed and put in upper case, and its blanks become underscores: they would end up in
-// the mount point, which is handed on in command lines that split at blanks.
+// name is trimmed and put in upper case.
 FatVolume fatVolumeFrom(const QString& fileSystem, const QString& name);

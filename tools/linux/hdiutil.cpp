@@ -8,6 +8,7 @@
 #include "diskpartitioner.h"
 #include "diskrefusal.h"
 #include "hybridimage.h"
+#include "imagenote.h"
 #include "lsblk.h"
 #include "printing.h"
 
@@ -28,6 +29,8 @@ int mountImage(const QString& image, VolumeService& volumes)
     const QFileInfo file(image);
     if (!file.isFile())
         return fail("mount", "No such file or directory");
+    // First, as an image that cannot be mounted is written to a disk all the same.
+    leaveImageNote(volumes.sessionFolder(), file.canonicalFilePath());
     const MountResult mounted = volumes.mountImage(file.absoluteFilePath());
     if (!mounted.error.isEmpty())
         return fail("mount", mounted.error);

@@ -73,6 +73,19 @@ MountedVolume volumeMountedAt(const QList<MountedVolume>& table, const QString& 
     return {};
 }
 
+MountedVolume volumeHolding(const QList<MountedVolume>& table, const QString& path)
+{
+    MountedVolume holding;
+    for (const MountedVolume& volume : table) {
+        const QString folder = volume.path.endsWith('/') ? volume.path : volume.path + '/';
+        // Of two at one place the later one hides the earlier.
+        if ((path == volume.path || path.startsWith(folder)) &&
+            volume.path.size() >= holding.path.size())
+            holding = volume;
+    }
+    return holding;
+}
+
 QString mountLine(const MountedVolume& volume)
 {
     QStringList notes(volume.type);

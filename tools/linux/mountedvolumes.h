@@ -28,5 +28,9 @@ QList<MountedVolume> mountTable();
 // The uppermost volume mounted exactly there, or one without a path.
 MountedVolume volumeMountedAt(const QList<MountedVolume>& table, const QString& path);
 
+// The volume that holds a file or folder, by its absolute path without links; one without a path
+// when the table names none.
+MountedVolume volumeHolding(const QList<MountedVolume>& table, const QString& path);
+
 // "DEVICE on PATH (type, local, read-only, …)", as the program reads it.
 QString mountLine(const MountedVolume& volume);

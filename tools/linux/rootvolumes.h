@@ -24,6 +24,7 @@ public:
     QString format(const QString& partition, const FatVolume& volume) override;
     bool choosesFatBits() const override { return false; }
     QString eject(const QString& device) override;
+    QString sessionFolder() const override { return images; }
 
 private:
     QString unmountPath(const QString& path, const QStringList& options) const;

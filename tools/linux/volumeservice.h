@@ -43,6 +43,8 @@ public:
     virtual bool choosesFatBits() const = 0;
     // Ejects the medium; nothing of it is mounted any more.
     virtual QString eject(const QString& device) = 0;
+    // A folder of this user's alone for what is forgotten when the session ends. Need not exist.
+    virtual QString sessionFolder() const = 0;
 };
 
 // The one for this process's user.
