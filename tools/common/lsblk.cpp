@@ -78,8 +78,10 @@ QStringList lsblkArguments(const QString& device)
 {
     QStringList arguments{
         QStringLiteral("--json"), QStringLiteral("--bytes"), QStringLiteral("--output"),
-        QStringLiteral("PATH,TYPE,SIZE,RM,HOTPLUG,TRAN,RO,VENDOR,MODEL,SERIAL,LABEL,FSTYPE,PTTYPE,"
-                       "MOUNTPOINTS")};
+        // Without NAME it tells nothing of what lies on what, but lists all devices side by side.
+        QStringLiteral(
+            "NAME,PATH,TYPE,SIZE,RM,HOTPLUG,TRAN,RO,VENDOR,MODEL,SERIAL,LABEL,FSTYPE,PTTYPE,"
+            "MOUNTPOINTS")};
     if (!device.isEmpty())
         arguments << QStringLiteral("--") << device;
     return arguments;
