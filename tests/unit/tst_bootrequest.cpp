@@ -201,6 +201,9 @@ void TstBootRequest::commandLines()
 
 void TstBootRequest::leadingDashIsNoSwitch()
 {
+    QCOMPARE(serviceMountArguments("/dev/sdb1", 1000, 1001),
+             QStringList({"--reuid=1000", "--regid=1001", "--init-groups", "--", "udisksctl",
+                          "mount", "--no-user-interaction", "--block-device", "/dev/sdb1"}));
     QCOMPARE(unmountArguments("-a").first(), QString("--"));
     QCOMPARE(mountArguments("-a", "-b", 0, 0).indexOf("--"), 4);
 }

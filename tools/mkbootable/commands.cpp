@@ -45,3 +45,16 @@ QStringList diskutilUnmountDiskArguments(const QString& disk)
 {
     return {QStringLiteral("unmountDisk"), disk};
 }
+
+QStringList serviceMountArguments(const QString& partition, uid_t user, gid_t group)
+{
+    return {QStringLiteral("--reuid=%1").arg(user),
+            QStringLiteral("--regid=%1").arg(group),
+            QStringLiteral("--init-groups"),
+            QStringLiteral("--"),
+            QStringLiteral("udisksctl"),
+            QStringLiteral("mount"),
+            QStringLiteral("--no-user-interaction"),
+            QStringLiteral("--block-device"),
+            partition};
+}

@@ -30,3 +30,7 @@ QStringList diskutilMountArguments(const QString& partition, const QString& moun
 // "diskutil": takes every file system of a disk away from where it is mounted, so that the disk can
 // be written. Nothing mounted is no failure.
 QStringList diskutilUnmountDiskArguments(const QString& disk);
+
+// "setpriv": asks the desktop's disk service, as the user, to mount the partition. Nobody is asked
+// for a password.
+QStringList serviceMountArguments(const QString& partition, uid_t user, gid_t group);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "bootabledisk.h"
+#include "handover.h"
 #include "makebootable.h"
 
 // The distribution has the boot loader, and an installer of it.
@@ -14,5 +15,9 @@ QString makeBootable(const Order& order)
     setup.group = order.group;
     setup.say = order.say;
     setup.stopped = order.stopped;
-    return BootableDisk(setup).make();
+    // The disk is locked only while it is made bootable.
+    const QString error = BootableDisk(setup).make();
+    if (!error.isEmpty() || order.user == 0)
+        return error;
+    return handOver(order.request.disk, order.request.mountPoint, order.user, order.group);
 }
