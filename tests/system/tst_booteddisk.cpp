@@ -3,6 +3,7 @@
 
 #include "bootabledisk.h"
 #include "bootfiles.h"
+#include "bootmanager.h"
 #include "imagedisk.h"
 #include "macimagedisk.h"
 #include "mbr.h"
@@ -33,13 +34,6 @@ namespace
 constexpr int megabytes = 40;
 constexpr int bootLimitMs = 120000;
 
-// A boot manager that prints its text and stops the processor; it is loaded as those of Windows.
-QByteArray bootManager(const QByteArray& text)
-{
-    return QByteArray::fromHex("8cc8 8ed8 be1900 fc ac 08c0 7409 b40e bb0700 cd10 ebf2 f4 ebfd") +
-           text + '\0';
-}
-
 void run(const QString& program, const QStringList& arguments)
 {
     QProcess process;
@@ -49,10 +43,6 @@ void run(const QString& program, const QStringList& arguments)
     QVERIFY2(ended && process.exitCode() == 0,
              qPrintable(program + ": " + process.errorString() + process.readAll()));
 }
-
-// The boot menu that the USB writer writes.
-const QByteArray bootMenu = "default boot\nLABEL boot\nMENU LABEL boot\n"
-                            "COM32 /syslinux/chain.c32\nAPPEND fs ntldr=/bootmgr\n";
 
 void formatPartition(const ImageDisk& stick, int fatBits)
 {

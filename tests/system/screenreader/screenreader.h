@@ -1,0 +1,26 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QByteArray>
+#include <QObject>
+#include <QString>
+
+// Tells what a program shows, as a screen reader would: every visible widget with its place and
+// content. Lives inside the program as a plugin and only looks. Read by GuestProgram.
+class ScreenReader : public QObject
+{
+    Q_OBJECT
+
+public:
+    // file always holds what is shown now, as JSON.
+    explicit ScreenReader(const QString& file);
+
+protected:
+    void timerEvent(QTimerEvent* event) override;
+
+private:
+    QString path;
+    QByteArray last;
+};

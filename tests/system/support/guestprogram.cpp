@@ -1,0 +1,221 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "guestprogram.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QThread>
+
+#include <functional>
+
+namespace
+{
+
+// An emulated program on a busy machine takes its time for everything.
+constexpr int usualSeconds = 60;
+// The prompt comes after a disk has been formatted.
+constexpr int promptSeconds = 240;
+constexpr unsigned long pollMs = 50;
+
+const QLatin1String program("korvex-iso-editor");
+const QLatin1String prompt("askpass");
+
+bool waitUntil(const std::function<bool()>& condition, int seconds)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!condition()) {
+        if (timer.elapsed() > seconds * 1000)
+            return false;
+        QThread::msleep(pollMs);
+    }
+    return true;
+}
+
+} // namespace
+
+GuestProgram::GuestProgram(VirtualMachine& virtualMachine)
+    : machine(virtualMachine)
+{
+}
+
+bool GuestProgram::start()
+{
+    const QString plugins = machine.sharedFolder() + "/plugins/generic";
+    const QString plugin = plugins + "/screenreader.so";
+    if (!QFile::exists(plugin) &&
+        (!QDir().mkpath(plugins) || !QFile::copy(KORVEX_SCREEN_READER, plugin)))
+        return fail("the plugin cannot be copied");
+    QFile::remove(machine.sharedFolder() + '/' + program + ".json");
+    QFile::remove(machine.sharedFolder() + '/' + prompt + ".json");
+    // What is done next is read from a file, as a script of its own takes seconds to start.
+    inputFile = QString("/input-%1").arg(++starts);
+    const auto started =
+        machine.run(": >$SHARE" + inputFile + "\n" + "while [ -e $SHARE" + inputFile +
+                    " ]; do\n"
+                    "  while read -r line; do eval \"xdotool $line\"; done\n"
+                    "  sleep 0.1\n"
+                    "done <$SHARE" +
+                    inputFile +
+                    " >~/input.log 2>&1 &\n"
+                    "export QT_PLUGIN_PATH=$SHARE/plugins\n"
+                    "export QT_QPA_GENERIC_PLUGINS=screenreader:$SHARE\n"
+                    "setsid $PROGRAM >~/program.log 2>&1 &");
+    return (started.exitCode == 0 || fail("the program cannot be started")) &&
+           waitForWidget("burn");
+}
+
+bool GuestProgram::stop()
+{
+    QFile::remove(machine.sharedFolder() + inputFile);
+    const auto ended = machine.run("kill -9 $(pidof korvex-iso-editor askpass)\n"
+                                   "while pidof korvex-iso-editor askpass; do sleep 0.1; done");
+    return ended.exitCode == 0 || fail("the program does not end");
+}
+
+bool GuestProgram::input(const QString& commands)
+{
+    QFile file(machine.sharedFolder() + inputFile);
+    return (file.open(QIODevice::WriteOnly | QIODevice::Append) &&
+            file.write(commands.toUtf8() + '\n') > 0) ||
+           fail("the input cannot be written");
+}
+
+bool GuestProgram::typeText(const QString& text)
+{
+    return text.isEmpty() || input("type --delay 20 -- '" + text + "'");
+}
+
+bool GuestProgram::waitUntilUsable(const QString& owner, const QString& widget, QJsonObject* found)
+{
+    return waitUntil(
+               [&] {
+                   *found = find(owner, widget);
+                   return found->value("usable").toBool();
+               },
+               owner == prompt ? promptSeconds : usualSeconds) ||
+           fail(widget + " of " + owner + " cannot be used");
+}
+
+bool GuestProgram::clickOn(const QString& owner, const QString& widget)
+{
+    QJsonObject found;
+    // The picture buttons go by where the mouse has come from.
+    return waitUntilUsable(owner, widget, &found) &&
+           input(QString("mousemove 2 2 sleep 0.1 mousemove %1 %2 sleep 0.1 click 1")
+                     .arg(found.value("x").toInt())
+                     .arg(found.value("y").toInt()));
+}
+
+bool GuestProgram::click(const QString& widget)
+{
+    return clickOn(program, widget);
+}
+
+bool GuestProgram::press(const QString& key)
+{
+    return input("key " + key);
+}
+
+bool GuestProgram::enter(const QString& field, const QString& content)
+{
+    return clickOn(program, field) && input("key ctrl+a key BackSpace") && typeText(content) &&
+           (waitUntil([&] { return text(field) == content.toUpper() || text(field) == content; },
+                      usualSeconds) ||
+            fail(field + " holds " + text(field)));
+}
+
+bool GuestProgram::chooseNext(const QString& list)
+{
+    const QString before = text(list);
+    return clickOn(program, list) && input("sleep 0.5 key Down key Return") &&
+           (waitUntil([&] { return text(list) != before; }, usualSeconds) ||
+            fail(list + " still shows " + before));
+}
+
+bool GuestProgram::enterPassword(const QString& password)
+{
+    return clickOn(prompt, "passwordEdit") && typeText(password) && clickOn(prompt, "btnok");
+}
+
+bool GuestProgram::cancelPassword()
+{
+    return clickOn(prompt, "btncancel");
+}
+
+bool GuestProgram::waitForText(const QString& wanted, int seconds)
+{
+    const auto isShown = [&] {
+        for (const QJsonValue widget : widgets(program))
+            if (widget["text"].toString().contains(wanted))
+                return true;
+        return false;
+    };
+    return waitUntil(isShown, seconds) || fail("the program does not say " + wanted);
+}
+
+bool GuestProgram::waitForWidget(const QString& widget, int seconds)
+{
+    return waitUntil([&] { return !find(program, widget).isEmpty(); }, seconds) ||
+           fail("the program does not show " + widget);
+}
+
+QStringList GuestProgram::entries(const QString& list)
+{
+    return find(program, list).value("entries").toVariant().toStringList();
+}
+
+bool GuestProgram::waitForEntries(const QString& list, const QStringList& wanted, int seconds)
+{
+    return waitUntil([&] { return entries(list) == wanted; }, seconds) ||
+           fail(list + " holds " + entries(list).join(", "));
+}
+
+QString GuestProgram::text(const QString& widget)
+{
+    return find(program, widget).value("text").toString();
+}
+
+QJsonArray GuestProgram::widgets(const QString& owner) const
+{
+    QFile file(machine.sharedFolder() + '/' + owner + ".json");
+    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).array()
+                                          : QJsonArray();
+}
+
+// Of several the outermost, and one that can be used before one that cannot.
+QJsonObject GuestProgram::find(const QString& owner, const QString& widget) const
+{
+    QJsonObject best;
+    const auto depth = [](const QJsonObject& object) {
+        return object.value("name").toString().count('/') +
+               (object.value("usable").toBool() ? 0 : 100);
+    };
+    for (const QJsonValue value : widgets(owner)) {
+        const QJsonObject object = value.toObject();
+        if (('/' + object.value("name").toString()).endsWith('/' + widget) &&
+            (best.isEmpty() || depth(object) < depth(best)))
+            best = object;
+    }
+    return best;
+}
+
+QString GuestProgram::problem() const
+{
+    QStringList shown;
+    for (const QJsonValue widget : widgets(program))
+        if (!widget["text"].toString().isEmpty())
+            shown << widget["name"].toString() + ": " + widget["text"].toString();
+    return trouble + "\nIt shows:\n" + shown.join('\n') + '\n' + machine.problem();
+}
+
+bool GuestProgram::fail(const QString& text)
+{
+    trouble = text;
+    return false;
+}

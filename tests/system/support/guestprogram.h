@@ -1,0 +1,62 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "virtualmachine.h"
+
+#include <QJsonObject>
+#include <QStringList>
+
+// The program on the screen of a virtual machine, used by mouse and keyboard as the user "tester"
+// does. What it shows is told by the plugin in screenreader/. Widgets are called by their object
+// names, with those of the widgets around them before it where the name alone is not unique:
+// "CBurnDialog/burn". Used by the system tests of pages.
+class GuestProgram
+{
+public:
+    explicit GuestProgram(VirtualMachine& virtualMachine);
+
+    // Starts the program and waits for its window. False with problem() when something fails, as
+    // with everything below.
+    bool start();
+    // Ends it, whatever it does.
+    bool stop();
+
+    // Waits until the widget can be used and clicks on its middle.
+    bool click(const QString& widget);
+    // Empties the field and types into it.
+    bool enter(const QString& field, const QString& text);
+    // Presses a key with the mouse where it is, by xdotool's name of it.
+    bool press(const QString& key);
+    // Chooses the entry below the present one.
+    bool chooseNext(const QString& list);
+    // The same for the prompt that asks for the administrator's password.
+    bool enterPassword(const QString& password);
+    bool cancelPassword();
+
+    // Waits until a visible widget's text contains this.
+    bool waitForText(const QString& text, int seconds = 60);
+    bool waitForWidget(const QString& widget, int seconds = 60);
+    bool waitForEntries(const QString& list, const QStringList& wanted, int seconds = 60);
+    // What it shows now; empty when it is not to be seen.
+    QStringList entries(const QString& list);
+    QString text(const QString& widget);
+
+    QString problem() const;
+
+private:
+    // Commands of xdotool, one after the other. Does not wait for them.
+    bool input(const QString& commands);
+    bool typeText(const QString& text);
+    bool waitUntilUsable(const QString& program, const QString& widget, QJsonObject* found);
+    bool clickOn(const QString& program, const QString& widget);
+    QJsonArray widgets(const QString& program) const;
+    QJsonObject find(const QString& program, const QString& widget) const;
+    bool fail(const QString& text);
+
+    VirtualMachine& machine;
+    int starts = 0;
+    QString inputFile;
+    QString trouble;
+};
