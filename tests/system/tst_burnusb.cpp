@@ -20,8 +20,14 @@ namespace
 {
 
 constexpr qint64 megabyte = 1024 * 1024;
+constexpr qint64 gigabyte = 1024 * megabyte;
 constexpr int burnSeconds = 300;
 const QByteArray managerText = "The boot manager of the stick runs";
+
+QString toolFolder()
+{
+    return QCoreApplication::applicationDirPath();
+}
 
 void run(const QString& script)
 {
@@ -54,6 +60,7 @@ private slots:
     void stickWithTheImageOnItIsLeftAlone();
     void refusedPasswordLeavesTheStickEmpty();
     void stickIsPulledOutDuringTheCopy();
+    void largeInstallWimIsSplit();
 
 private:
     // Plugs a stick with that content in and returns its node; pull() takes it out again.
@@ -61,6 +68,8 @@ private:
     void pull();
     // Opens the page and chooses the image and what is to become of the stick.
     void prepareBurn(const QString& image, const QString& node, const QString& label, bool fat);
+    // A Windows installation disc with little on it.
+    void makeWindowsImage(const QString& image);
     void confirm();
     void finish();
     // What lies on a stick that has been pulled out.
@@ -152,6 +161,22 @@ void TstBurnUsb::prepareBurn(const QString& image, const QString& node, const QS
     if (fat)
         USE(program.chooseNext("sysfilelist"));
     USE(program.click("CBurnDialog/burn"));
+}
+
+void TstBurnUsb::makeWindowsImage(const QString& image)
+{
+    const QString content = folder.filePath("windows-content");
+    writeFile(folder.filePath("installed/explorer.exe"), "explorer");
+    writeRandomFile(folder.filePath("installed/large.dll"), 3 * megabyte, 3);
+    writeFile(content + "/setup.exe", "setup");
+    QVERIFY(QDir().mkpath(content + "/sources"));
+    const QString archive = content + "/sources/install.wim";
+    run("'" + toolFolder() + "/wimlib-imagex/wimlib-imagex' capture '" +
+        folder.filePath("installed") + "' '" + archive + "'");
+    QVERIFY(QFile::resize(archive, 4 * gigabyte));
+    run("'" + toolFolder() + "/cdrtools/mkisofs' -quiet -udf -allow-limited-size -r -V WIN '" +
+        content + "' | dd conv=sparse bs=64K status=none of='" + image + "'");
+    QVERIFY(QFile::remove(archive));
 }
 
 void TstBurnUsb::confirm()
@@ -315,6 +340,34 @@ void TstBurnUsb::stickIsPulledOutDuringTheCopy()
     USE(program.waitForEntries("usblist", {}));
     USE(program.click("CBurnDialog/back"));
     output("umount -l /media/tester/PULLED || true");
+}
+
+// An archive of Windows images that is larger than FAT's files can be, though for the greater part
+// it is a hole that nothing refers to.
+void TstBurnUsb::largeInstallWimIsSplit()
+{
+    const QString image = machine.sharedFolder() + "/windows.iso";
+    STEP(makeWindowsImage(image));
+    const QString file = makeStick(folder.filePath("windows"), 6 * gigabyte);
+    const QString node = plug(file);
+    SUCCEED(!node.isEmpty());
+    STEP(
+        prepareBurn(QString(VirtualMachine::guestFolder) + "/windows.iso", node, "WINDOWS", false));
+    STEP(confirm());
+    USE(program.enterPassword("tester"));
+    USE(program.waitForText("Process the wim file larger than 4 GB...", burnSeconds));
+    STEP(finish());
+    QCOMPARE(output("losetup --list --noheadings"), "");
+    pull();
+    QCOMPARE(contentOf(file).keys(),
+             QStringList({"ldlinux.c32", "ldlinux.sys", "libcom32.c32", "libutil.c32", "setup.exe",
+                          "sources", "sources/install.swm", "syslinux", "syslinux.cfg",
+                          "syslinux/chain.c32", "syslinux/libcom32.c32", "syslinux/libutil.c32"}));
+    const QString part = folder.filePath("install.swm");
+    run("MTOOLS_SKIP_CHECK=1 mcopy -i '" + file + "@@1M' ::/sources/install.swm '" + part + "'");
+    run("'" + toolFolder() + "/wimlib-imagex/wimlib-imagex' apply '" + part + "' 1 '" +
+        folder.filePath("applied") + "'");
+    QCOMPARE(hashesBelow(folder.filePath("applied")), hashesBelow(folder.filePath("installed")));
 }
 
 KORVEX_TEST_MAIN(TstBurnUsb)
