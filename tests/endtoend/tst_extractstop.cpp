@@ -17,7 +17,7 @@ namespace
 constexpr int fileCount = 12;
 constexpr qint64 fileBytes = 5'000'000;
 // Long enough on its way to be stopped in.
-constexpr qint64 lastFileBytes = 100'000'000;
+constexpr qint64 lastFileBytes = 300'000'000;
 constexpr int stops = 51; // a third of them at each moment
 constexpr int stopLimitMs = 2000;
 
