@@ -3,6 +3,7 @@
 
 #include "screenreader.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QFile>
@@ -21,7 +22,7 @@
 namespace
 {
 
-constexpr int intervalMs = 100;
+constexpr int intervalMs = 150;
 
 QString textOf(const QWidget* widget)
 {
@@ -61,6 +62,7 @@ QJsonObject description(const QWidget* widget)
         for (int index = 0; index < list->count(); ++index)
             entries.append(list->itemText(index));
         object.insert("entries", entries);
+        object.insert("open", list->view()->isVisible());
     }
     if (const auto* const button = qobject_cast<const QRadioButton*>(widget))
         object.insert("checked", button->isChecked());
@@ -74,7 +76,7 @@ QByteArray screen()
     for (const QWidget* const widget : all)
         if (widget->isVisible() && !widget->objectName().isEmpty())
             widgets.append(description(widget));
-    return QJsonDocument(widgets).toJson();
+    return QJsonDocument(widgets).toJson(QJsonDocument::Compact);
 }
 
 class ScreenReaderPlugin : public QGenericPlugin
@@ -97,10 +99,26 @@ ScreenReader::ScreenReader(const QString& file)
     : path(file)
 {
     startTimer(intervalMs);
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+ScreenReader::~ScreenReader()
+{
+    QFile::remove(path);
+}
+
+bool ScreenReader::eventFilter(QObject*, QEvent* event)
+{
+    if (event->type() != QEvent::Timer)
+        isStale = true;
+    return false;
 }
 
 void ScreenReader::timerEvent(QTimerEvent*)
 {
+    if (!isStale)
+        return;
+    isStale = false;
     const QByteArray now = screen();
     if (now == last)
         return;

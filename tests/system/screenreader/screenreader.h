@@ -14,13 +14,17 @@ class ScreenReader : public QObject
     Q_OBJECT
 
 public:
-    // file always holds what is shown now, as JSON.
+    // file always holds what is shown now, as JSON, and is gone when the program has ended.
     explicit ScreenReader(const QString& file);
+    ~ScreenReader() override;
 
 protected:
     void timerEvent(QTimerEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     QString path;
     QByteArray last;
+    // Something has happened since it was last looked; looking takes an emulated machine its time.
+    bool isStale = true;
 };

@@ -10,4 +10,4 @@
 //
 // Returns the 25 lines of the text screen, as soon as they contain the awaited text and otherwise
 // when the time has passed; empty when there is no machine. The file stays as it is.
-QString bootStick(const QString& file, const QString& awaited, int limitSeconds = 120);
+QString bootStick(const QString& file, const QString& awaited, int limitSeconds = 300);

@@ -17,9 +17,9 @@ namespace
 {
 
 // An emulated program on a busy machine takes its time for everything.
-constexpr int usualSeconds = 60;
+constexpr int usualSeconds = 180;
 // The prompt comes after a disk has been formatted.
-constexpr int promptSeconds = 240;
+constexpr int promptSeconds = 600;
 constexpr unsigned long pollMs = 50;
 
 const QLatin1String program("korvex-iso-editor");
@@ -55,27 +55,32 @@ bool GuestProgram::start()
     QFile::remove(machine.sharedFolder() + '/' + prompt + ".json");
     // What is done next is read from a file, as a script of its own takes seconds to start.
     inputFile = QString("/input-%1").arg(++starts);
-    const auto started =
-        machine.run(": >$SHARE" + inputFile + "\n" + "while [ -e $SHARE" + inputFile +
-                    " ]; do\n"
-                    "  while read -r line; do eval \"xdotool $line\"; done\n"
-                    "  sleep 0.1\n"
-                    "done <$SHARE" +
-                    inputFile +
-                    " >~/input.log 2>&1 &\n"
-                    "export QT_PLUGIN_PATH=$SHARE/plugins\n"
-                    "export QT_QPA_GENERIC_PLUGINS=screenreader:$SHARE\n"
-                    "setsid $PROGRAM >~/program.log 2>&1 &");
-    return (started.exitCode == 0 || fail("the program cannot be started")) &&
-           waitForWidget("burn");
+    // Waiting for nothing costs less than starting "sleep".
+    const auto started = machine.run("input=$SHARE" + inputFile + R"(
+: >$input
+[ -p ~/nothing ] || mkfifo ~/nothing
+while [ -e $input ]; do
+  while read -r line; do eval "xdotool $line"; done
+  read -rt 0.1 <>~/nothing
+done <$input >~/input.log 2>&1 &
+export QT_PLUGIN_PATH=$SHARE/plugins QT_QPA_GENERIC_PLUGINS=screenreader:$SHARE
+setsid $PROGRAM >~/program.log 2>&1 &)");
+    running = started.exitCode == 0;
+    return (running || fail("the program cannot be started")) && waitForWidget("burn");
 }
 
 bool GuestProgram::stop()
 {
+    running = false;
     QFile::remove(machine.sharedFolder() + inputFile);
     const auto ended = machine.run("kill -9 $(pidof korvex-iso-editor askpass)\n"
                                    "while pidof korvex-iso-editor askpass; do sleep 0.1; done");
     return ended.exitCode == 0 || fail("the program does not end");
+}
+
+bool GuestProgram::isRunning() const
+{
+    return running;
 }
 
 bool GuestProgram::input(const QString& commands)
@@ -117,9 +122,22 @@ bool GuestProgram::click(const QString& widget)
     return clickOn(program, widget);
 }
 
-bool GuestProgram::press(const QString& key)
+bool GuestProgram::openList(const QString& list)
 {
-    return input("key " + key);
+    return clickOn(program, list) && waitForList(list, true);
+}
+
+bool GuestProgram::closeList(const QString& list)
+{
+    return input("key Escape") && waitForList(list, false);
+}
+
+// What a list does before it opens may take its time, and keys that come earlier are lost.
+bool GuestProgram::waitForList(const QString& list, bool open)
+{
+    return waitUntil([&] { return find(program, list).value("open").toBool() == open; },
+                     usualSeconds) ||
+           fail(list + (open ? " does not open" : " does not close"));
 }
 
 bool GuestProgram::enter(const QString& field, const QString& content)
@@ -133,7 +151,7 @@ bool GuestProgram::enter(const QString& field, const QString& content)
 bool GuestProgram::chooseNext(const QString& list)
 {
     const QString before = text(list);
-    return clickOn(program, list) && input("sleep 0.5 key Down key Return") &&
+    return openList(list) && input("key Down key Return") && waitForList(list, false) &&
            (waitUntil([&] { return text(list) != before; }, usualSeconds) ||
             fail(list + " still shows " + before));
 }

@@ -22,13 +22,16 @@ public:
     bool start();
     // Ends it, whatever it does.
     bool stop();
+    // Started and not stopped.
+    bool isRunning() const;
 
     // Waits until the widget can be used and clicks on its middle.
     bool click(const QString& widget);
     // Empties the field and types into it.
     bool enter(const QString& field, const QString& text);
-    // Presses a key with the mouse where it is, by xdotool's name of it.
-    bool press(const QString& key);
+    // Opens a list that drops down, and closes it without a choice.
+    bool openList(const QString& list);
+    bool closeList(const QString& list);
     // Chooses the entry below the present one.
     bool chooseNext(const QString& list);
     // The same for the prompt that asks for the administrator's password.
@@ -36,9 +39,9 @@ public:
     bool cancelPassword();
 
     // Waits until a visible widget's text contains this.
-    bool waitForText(const QString& text, int seconds = 60);
-    bool waitForWidget(const QString& widget, int seconds = 60);
-    bool waitForEntries(const QString& list, const QStringList& wanted, int seconds = 60);
+    bool waitForText(const QString& text, int seconds = 180);
+    bool waitForWidget(const QString& widget, int seconds = 180);
+    bool waitForEntries(const QString& list, const QStringList& wanted, int seconds = 180);
     // What it shows now; empty when it is not to be seen.
     QStringList entries(const QString& list);
     QString text(const QString& widget);
@@ -50,6 +53,7 @@ private:
     bool input(const QString& commands);
     bool typeText(const QString& text);
     bool waitUntilUsable(const QString& program, const QString& widget, QJsonObject* found);
+    bool waitForList(const QString& list, bool open);
     bool clickOn(const QString& program, const QString& widget);
     QJsonArray widgets(const QString& program) const;
     QJsonObject find(const QString& program, const QString& widget) const;
@@ -57,6 +61,7 @@ private:
 
     VirtualMachine& machine;
     int starts = 0;
+    bool running = false;
     QString inputFile;
     QString trouble;
 };

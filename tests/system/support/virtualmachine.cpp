@@ -14,10 +14,10 @@ namespace
 {
 
 // Of all times, since everything is emulated and the processors may be shared with others.
-constexpr int bootLimit = 300 * 1000;
+constexpr int bootLimit = 600 * 1000;
 constexpr int shutDownLimit = 120 * 1000;
-constexpr int unplugLimit = 60 * 1000;
-constexpr int answerGrace = 60 * 1000;
+constexpr int unplugLimit = 180 * 1000;
+constexpr int answerGrace = 180 * 1000;
 constexpr int stickSeconds = 60;
 
 // The processor is an old one because newer ones have the machine load drivers for what they can do
@@ -56,6 +56,8 @@ QStringList machineArguments(const QString& folder)
         "-virtfs",
         "local,mount_tag=share,security_model=none,multidevs=remap,path=" + folder + "/share",
         "-virtfs",
+        "local,mount_tag=images,security_model=none,readonly=on,path=" + folder + "/images",
+        "-virtfs",
         "local,mount_tag=program,security_model=none,readonly=on,path=" KORVEX_PROGRAM_FOLDER,
         "-device",
         "virtio-serial-pci",
@@ -88,7 +90,8 @@ bool VirtualMachine::start()
     const QDir folder(emulator.folder());
     // Users of both sides write there, under numbers that mean nothing to the other.
     constexpr auto everyone = QFile::Permissions(0x7777);
-    if (!folder.mkpath("share/commands") || !QFile::setPermissions(sharedFolder(), everyone) ||
+    if (!folder.mkpath("share/commands") || !folder.mkpath("images") ||
+        !QFile::setPermissions(sharedFolder(), everyone) ||
         !agentServer.listen(folder.filePath("agent")))
         return fail("no shared folder");
     if (!emulator.start(machineArguments(folder.path())) || !connectAgent() ||
@@ -139,15 +142,24 @@ QString VirtualMachine::sharedFolder() const
     return emulator.folder() + "/share";
 }
 
+QString VirtualMachine::imageFolder() const
+{
+    return emulator.folder() + "/images";
+}
+
 QString VirtualMachine::plugStick(const QString& serial, const QString& file)
 {
     const QString drive = "drive-" + serial;
     // What is written may stay in memory: a file that outlives its machine outlives no power cut.
+    // Zeros take no room in it.
     const QJsonObject cache = {{"no-flush", true}};
     const QJsonObject content = {{"driver", "file"}, {"filename", file}, {"cache", cache}};
-    if (!emulator.execute(
-            "blockdev-add",
-            {{"driver", "raw"}, {"node-name", drive}, {"cache", cache}, {"file", content}}) ||
+    if (!emulator.execute("blockdev-add", {{"driver", "raw"},
+                                           {"node-name", drive},
+                                           {"cache", cache},
+                                           {"file", content},
+                                           {"discard", "unmap"},
+                                           {"detect-zeroes", "unmap"}}) ||
         !emulator.execute("device_add", {{"driver", "usb-storage"},
                                          {"id", serial},
                                          {"bus", "usb.0"},

@@ -45,6 +45,8 @@ public:
     static constexpr const char* program = "/opt/korvex-iso-editor/korvex-iso-editor";
     // Where the machine sees sharedFolder().
     static constexpr const char* guestFolder = "/mnt/share";
+    // Where it sees imageFolder().
+    static constexpr const char* guestImages = "/mnt/images";
 
     VirtualMachine();
     ~VirtualMachine();
@@ -59,11 +61,14 @@ public:
 
     // Runs a bash script in the user's home folder. Programs of the screen can be started in the
     // background of a script ("$PROGRAM &"), they go on when it has ended.
-    Result run(const QString& script, User user = User::Tester, int limitSeconds = 120);
+    Result run(const QString& script, User user = User::Tester, int limitSeconds = 300);
     // Both sides may read and write here. Exists from start() until the machine is gone. What the
     // machine makes there belongs to whoever runs the test, so "tester" may replace such files
     // but not overwrite them.
     QString sharedFolder() const;
+    // For large files that the machine reads, and reads fast: it keeps what it has read. They must
+    // not change any more once it has seen them.
+    QString imageFolder() const;
 
     // Plugs a stick in whose content is the file and returns its node ("/dev/sda") once the
     // machine's udev has dealt with it; empty when it does not appear. The serial number names the

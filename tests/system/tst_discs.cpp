@@ -1,40 +1,31 @@
 // Copyright (c) 2026 The Korvex ISO Editor developers
 // SPDX-License-Identifier: MIT
 
-#include "guestprogram.h"
+#include "guesttest.h"
 #include "imagemaker.h"
-#include "testcase.h"
 #include "testfiles.h"
 #include "testmain.h"
-#include "virtualmachine.h"
 
-#include <QTemporaryDir>
-#include <QtTest>
-
-// Discs copied to images by the program for a user at the screen.
-class TstDiscCopy : public TestCase
+// Discs copied to images and burnt by the program for a user at the screen.
+class TstDiscs : public GuestTest
 {
     Q_OBJECT
 
 private slots:
     void initTestCase();
-    void init();
     void cleanup();
 
     void driveWithoutDiscIsNotListed();
     void discIsCopied();
     void buttonEjectsTheMountedDisc();
+    void imageIsBurnt();
 
 private:
+    void openCopyPage();
+    void leaveCopyPage();
     void insertAndMount();
-
-    QTemporaryDir folder;
-    VirtualMachine machine;
-    GuestProgram program{machine};
+    void pretendBlankDisc();
 };
-
-#define SUCCEED(condition) QVERIFY2(condition, qPrintable(machine.problem()))
-#define USE(condition) QVERIFY2(condition, qPrintable(program.problem()))
 
 namespace
 {
@@ -44,9 +35,9 @@ const QStringList drive("QEMU QEMU DVD-ROM 2.5+ (/dev/sr0)");
 
 } // namespace
 
-void TstDiscCopy::initTestCase()
+void TstDiscs::initTestCase()
 {
-    SUCCEED(machine.start());
+    STEP(GuestTest::initTestCase());
     const QString content = folder.filePath("content");
     for (int number = 0; number < 100; ++number)
         writeFile(QString("%1/folder %2/file-%3").arg(content).arg(number % 10).arg(number),
@@ -56,23 +47,27 @@ void TstDiscCopy::initTestCase()
     makeImage(content, folder.filePath("disc.iso"), {"-J", "-V", "MY  DISC"});
 }
 
-void TstDiscCopy::init()
+void TstDiscs::cleanup()
 {
-    USE(program.start());
-}
-
-void TstDiscCopy::cleanup()
-{
-    if (QTest::currentTestFailed() && QDir().mkpath(KORVEX_SCREENSHOTS))
-        machine.screenshot().save(
-            QString(KORVEX_SCREENSHOTS "/system-failed-%1.png").arg(QTest::currentTestFunction()));
-    USE(program.stop());
+    GuestTest::cleanup();
     machine.run("umount /dev/sr0", VirtualMachine::User::Root);
     SUCCEED(machine.removeDisc());
 }
 
+void TstDiscs::openCopyPage()
+{
+    USE(program.click("copy"));
+    USE(program.waitForWidget("CPage5/start"));
+}
+
+void TstDiscs::leaveCopyPage()
+{
+    USE(program.click("CPage5/back"));
+    USE(program.waitForWidget("copy"));
+}
+
 // As the desktop does when a disc comes in.
-void TstDiscCopy::insertAndMount()
+void TstDiscs::insertAndMount()
 {
     SUCCEED(machine.insertDisc(folder.filePath("disc.iso")));
     const auto mounted =
@@ -82,20 +77,36 @@ void TstDiscCopy::insertAndMount()
              mounted.output.constData());
 }
 
-void TstDiscCopy::driveWithoutDiscIsNotListed()
+// The machine's drive cannot write. Here it says that it can, and what is meant for it goes to the
+// pseudo drive of the burning tool, a file.
+void TstDiscs::pretendBlankDisc()
 {
-    USE(program.click("copy"));
-    USE(program.waitForWidget("CPage5/start"));
+    output(R"(cat >/etc/udev/rules.d/99-blank.rules <<'END'
+KERNEL=="sr0", ENV{ID_CDROM_CD_R}="1", ENV{ID_CDROM_MEDIA}="1", ENV{ID_CDROM_MEDIA_CD_R}="1", \
+    ENV{ID_CDROM_MEDIA_STATE}="blank"
+END
+cat >/usr/local/bin/xorriso <<'END'
+#!/bin/bash
+exec /usr/bin/xorriso "${@/#dev=\/dev\/sr0/dev=stdio:/home/tester/burnt}"
+END
+chmod 755 /usr/local/bin/xorriso
+udevadm control --reload; udevadm trigger --settle /dev/sr0)");
+}
+
+void TstDiscs::driveWithoutDiscIsNotListed()
+{
+    STEP(openCopyPage());
     USE(program.click("CPage5/start"));
     USE(program.waitForText("Please select the iso file to save"));
     QCOMPARE(program.entries("dvdlist"), QStringList());
     USE(program.click("CommDialog/btnok"));
+    STEP(leaveCopyPage());
 }
 
-void TstDiscCopy::discIsCopied()
+void TstDiscs::discIsCopied()
 {
-    insertAndMount();
-    USE(program.click("copy"));
+    STEP(insertAndMount());
+    STEP(openCopyPage());
     USE(program.waitForEntries("dvdlist", drive));
     const QString image = machine.sharedFolder() + "/copy.iso";
     USE(program.enter("lineEdit", QString(VirtualMachine::guestFolder) + "/copy.iso"));
@@ -105,6 +116,7 @@ void TstDiscCopy::discIsCopied()
     USE(program.waitForText("Copy CD/DVD successfully!", copySeconds));
     qInfo() << "Copied in" << timer.elapsed() << "ms";
     USE(program.click("CommDialog/btnok"));
+    STEP(leaveCopyPage());
     extractImage(folder.filePath("disc.iso"), folder.filePath("disc"));
     extractImage(image, folder.filePath("copy"));
     const auto wanted = hashesBelow(folder.filePath("disc"));
@@ -114,16 +126,37 @@ void TstDiscCopy::discIsCopied()
     QCOMPARE(readFile(image).mid(16 * 2048 + 40, 32).trimmed(), QByteArray("MY  DISC"));
 }
 
-void TstDiscCopy::buttonEjectsTheMountedDisc()
+void TstDiscs::buttonEjectsTheMountedDisc()
 {
-    insertAndMount();
+    STEP(insertAndMount());
     QVERIFY(!machine.isTrayOpen());
-    USE(program.click("copy"));
+    STEP(openCopyPage());
     USE(program.waitForEntries("dvdlist", drive));
     USE(program.click("CPage5/eject"));
     QTRY_VERIFY_WITH_TIMEOUT(machine.isTrayOpen(), 60000);
     QCOMPARE(machine.run("ls -A /media/tester").output, QByteArray());
+    STEP(leaveCopyPage());
 }
 
-KORVEX_TEST_MAIN(TstDiscCopy)
-#include "tst_disccopy.moc"
+void TstDiscs::imageIsBurnt()
+{
+    STEP(pretendBlankDisc());
+    QVERIFY(QFile::copy(folder.filePath("disc.iso"), machine.sharedFolder() + "/disc.iso"));
+    USE(program.click("burn"));
+    USE(program.click("CBurnDialog/rdvd"));
+    USE(program.waitForEntries("dvdlist", drive));
+    USE(program.enter("isofile", QString(VirtualMachine::guestFolder) + "/disc.iso"));
+    USE(program.click("CBurnDialog/burn"));
+    USE(program.waitForText("Burning disc successfully.", copySeconds));
+    USE(program.click("CommDialog/btnok"));
+    USE(program.click("CBurnDialog/back"));
+    output("cp ~tester/burnt $SHARE/burnt");
+    const QByteArray image = readFile(folder.filePath("disc.iso"));
+    const auto hash = [](const QByteArray& bytes) {
+        return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex();
+    };
+    QCOMPARE(hash(readFile(machine.sharedFolder() + "/burnt").left(image.size())), hash(image));
+}
+
+KORVEX_TEST_MAIN(TstDiscs)
+#include "tst_discs.moc"
