@@ -134,12 +134,12 @@ void CBurnDialog::createUsbOptions()
     partitionstyle = createFieldLabel(this, "partitionstyle", {350, 202, 226, 20});
     ptlist = createPageField<QComboBox>(this, "ptlist", {350, 224, 226, 26});
     ptlist->addItems({QString(), QString()});
-    filesystem = createFieldLabel(this, "filesystem", {350, 251, 108, 40});
-    sysfilelist = createPageField<QComboBox>(this, "sysfilelist", {350, 292, 108, 26});
+    filesystem = createFieldLabel(this, "filesystem", {350, 251, 108, 46});
+    sysfilelist = createPageField<QComboBox>(this, "sysfilelist", {350, 297, 108, 26});
     // Names for the disk tool, so never translated.
     sysfilelist->addItems({"FAT32", "FAT"});
-    volumelabel = createFieldLabel(this, "volumelabel", {466, 251, 114, 40});
-    volumelab = createPageField<QLineEdit>(this, "volumelab", {466, 292, 110, 26});
+    volumelabel = createFieldLabel(this, "volumelabel", {466, 251, 114, 46});
+    volumelab = createPageField<QLineEdit>(this, "volumelab", {466, 297, 110, 26});
     volumelab->setMaxLength(longestVolumeLabel);
     volumelab->setValidator(
         new QRegularExpressionValidator(QRegularExpression(labelPattern), volumelab));
