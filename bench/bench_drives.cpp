@@ -17,7 +17,7 @@
 namespace
 {
 
-constexpr int runs = 5;
+constexpr int runs = 3;
 constexpr int files = 40;
 constexpr int megabytesEach = 15;
 constexpr qint64 stickBytes = 2LL * 1024 * 1024 * 1024;
