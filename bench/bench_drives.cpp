@@ -14,10 +14,12 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
+#include <cstdio>
+
 namespace
 {
 
-constexpr int runs = 3;
+constexpr int runs = 5;
 constexpr int files = 40;
 constexpr int megabytesEach = 15;
 constexpr qint64 stickBytes = 2LL * 1024 * 1024 * 1024;
@@ -81,11 +83,10 @@ public:
     {
         forgetDisc();
         use(program.click("copy") && program.waitForWidget("CPage5/start") &&
-            program.enter("lineEdit", "/home/tester/copy.iso"));
+            program.enter("lineEdit", "/home/tester/copy.iso") && program.pointAt("CPage5/start"));
         QElapsedTimer clock;
         clock.start();
-        use(program.click("CPage5/start") &&
-            program.waitForText("Copy CD/DVD successfully!", limitSeconds));
+        use(program.click() && program.waitForText("Copy CD/DVD successfully!", limitSeconds));
         const auto time = static_cast<double>(clock.elapsed());
         use(program.click("CommDialog/btnok") && program.click("CPage5/back"));
         return time;
@@ -140,14 +141,29 @@ private:
     int sticks = 0;
 };
 
+// Emulation needs all of the processors: a run in which others took more than this is repeated.
+double undisturbed(const std::function<double()>& run)
+{
+    constexpr double mostTaken = 0.03;
+    constexpr int attempts = 4;
+    double result = 0;
+    double taken = 1;
+    for (int attempt = 0; attempt < attempts && taken > mostTaken; ++attempt) {
+        taken = shareTakenByOthers([&] { result = run(); });
+        std::fprintf(stderr, "%.0f ms, %.1f %% of the processors taken by others\n", result,
+                     taken * 100);
+    }
+    return result;
+}
+
 void measureSticks(DriveBench& bench)
 {
     Samples bare;
     Samples burns;
     Samples preparations;
     for (int run = 0; run < runs; ++run) {
-        bare.add(bench.bareBurn());
-        burns.add(bench.burn(preparations));
+        bare.add(undisturbed([&] { return bench.bareBurn(); }));
+        burns.add(undisturbed([&] { return bench.burn(preparations); }));
     }
     printTitle(QString("USB stick, %1 files of %2 MB").arg(files).arg(megabytesEach));
     printSamples("7z x and sync", bare, "ms");
@@ -160,8 +176,8 @@ void measureDiscs(DriveBench& bench)
     Samples bare;
     Samples copies;
     for (int run = 0; run < runs; ++run) {
-        bare.add(bench.bareCopy());
-        copies.add(bench.copy());
+        bare.add(undisturbed([&] { return bench.bareCopy(); }));
+        copies.add(undisturbed([&] { return bench.copy(); }));
     }
     printTitle(QString("Disc, %1 files of %2 MB").arg(files).arg(megabytesEach));
     printSamples("mkisofs of the mounted disc", bare, "ms");

@@ -4,11 +4,30 @@
 #include "statistics.h"
 
 #include <QElapsedTimer>
+#include <QFile>
+#include <QThread>
 
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <sys/resource.h>
+#include <unistd.h>
+
+namespace
+{
+
+// Of all processors since the machine was started.
+double stolenMilliseconds()
+{
+    QFile file("/proc/stat");
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    // cpu user nice system idle iowait irq softirq steal …
+    const QList<QByteArray> fields = file.readLine().simplified().split(' ');
+    return fields.value(8).toDouble() * 1000 / double(::sysconf(_SC_CLK_TCK));
+}
+
+} // namespace
 
 double Samples::median() const
 {
@@ -46,6 +65,13 @@ double processorMilliseconds()
         return double(time.tv_sec) * 1e3 + double(time.tv_usec) / 1e3;
     };
     return milli(usage.ru_utime) + milli(usage.ru_stime);
+}
+
+double shareTakenByOthers(const std::function<void()>& function)
+{
+    const double before = stolenMilliseconds();
+    const double time = milliseconds(function);
+    return (stolenMilliseconds() - before) / time / QThread::idealThreadCount();
 }
 
 void printTitle(const QString& title)

@@ -26,6 +26,9 @@ private:
 double milliseconds(const std::function<void()>& function);
 // Processor time that this process has used so far in all its threads, in milliseconds.
 double processorMilliseconds();
+// Share of this machine's processors, 0 to 1, that its host has given to others while the function
+// ran. 0 where the machine does not tell, as on real hardware.
+double shareTakenByOthers(const std::function<void()>& function);
 
 // Prints a title, an underlined one for a new table.
 void printTitle(const QString& title);

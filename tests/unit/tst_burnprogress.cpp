@@ -21,6 +21,7 @@ private slots:
     void lineOfOurs();
     void onlySuccessReachesOne();
     void valuesOnlyRise();
+    void valuesInQuickSuccessionAreLeftOut();
 };
 
 void TstBurnProgress::lineOfTheTool_data()
@@ -81,12 +82,28 @@ void TstBurnProgress::onlySuccessReachesOne()
 void TstBurnProgress::valuesOnlyRise()
 {
     const QByteArray said = standardOutputOf([] {
-        ProgressTeller teller;
+        ProgressTeller teller(0);
         for (const double part : {0.0, 0.25, 0.25, 0.125, 0.5, qQNaN()})
             teller.reach(part);
     });
     QCOMPARE(said, QByteArray("DRStatusPercentCompleteKey: 0.25\n"
                               "DRStatusPercentCompleteKey: 0.5\n"));
+}
+
+void TstBurnProgress::valuesInQuickSuccessionAreLeftOut()
+{
+    const QByteArray said = standardOutputOf([] {
+        ProgressTeller teller(50);
+        teller.reach(0.125);
+        teller.reach(0.25);
+        QTest::qSleep(60);
+        teller.reach(0.5);
+        teller.reach(1);
+        ProgressTeller::finish();
+    });
+    QCOMPARE(said, QByteArray("DRStatusPercentCompleteKey: 0.125\n"
+                              "DRStatusPercentCompleteKey: 0.5\n"
+                              "DRStatusPercentCompleteKey: 1\n"));
 }
 
 KORVEX_TEST_MAIN(TstBurnProgress)

@@ -86,8 +86,9 @@ void TstDiscBurner::commandLine()
 void TstDiscBurner::progressIsTold()
 {
     const StandIns tools;
-    tools.add("xorriso", "echo 'xorriso : UPDATE :    1 of    4 MB written (fifo 99%)' >&2; "
-                         "echo 'xorriso : UPDATE :    4 of    4 MB written (fifo 99%)' >&2");
+    tools.add("xorriso",
+              "echo 'xorriso : UPDATE :    1 of    4 MB written (fifo 99%)' >&2; "
+              "sleep 0.3; echo 'xorriso : UPDATE :    4 of    4 MB written (fifo 99%)' >&2");
     writeFile(tools.filePath("x.iso"), "x");
     QCOMPARE(
         burnt(tools.filePath("x.iso"), "/dev/sr0"),

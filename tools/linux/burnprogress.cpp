@@ -37,12 +37,18 @@ QString progressLine(double part)
     return "DRStatusPercentCompleteKey: " + number;
 }
 
+ProgressTeller::ProgressTeller(int leastInterval)
+    : interval(leastInterval)
+{
+}
+
 void ProgressTeller::reach(double part)
 {
     const double shown = std::min(part, almostAll);
-    if (!(shown > told))
+    if (!(shown > told) || (sinceTold.isValid() && sinceTold.elapsed() < interval))
         return;
     told = shown;
+    sinceTold.start();
     say(progressLine(shown));
 }
 

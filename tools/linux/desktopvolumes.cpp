@@ -65,8 +65,8 @@ QString mountPathOfDevice(const QString& device)
 
 } // namespace
 
-DesktopVolumes::DesktopVolumes(const QDBusConnection& bus, const QString& folder)
-    : connection(bus)
+DesktopVolumes::DesktopVolumes(std::optional<QDBusConnection> bus, const QString& folder)
+    : connection(std::move(bus))
     , links(folder)
 {
 }
@@ -84,7 +84,8 @@ QDBusMessage DesktopVolumes::call(const QString& object, const char* interface, 
     QDBusMessage message = QDBusMessage::createMethodCall(serviceName, object, interface, method);
     message.setArguments(arguments);
     message.setInteractiveAuthorizationAllowed(true);
-    return connection.call(message, QDBus::Block, answerLimitMs);
+    return (connection ? *connection : QDBusConnection::systemBus())
+        .call(message, QDBus::Block, answerLimitMs);
 }
 
 QDBusMessage DesktopVolumes::callOnceThere(const QString& object, const char* interface,

@@ -9,15 +9,17 @@
 #include <QString>
 #include <QVariantMap>
 
+#include <optional>
+
 // VolumeService for everybody but root: asks the desktop's disk service (UDisks2), which decides by
 // the system's rules and asks the user for a password where those say so.
 class DesktopVolumes : public VolumeService
 {
 public:
     // folder is the session's, which also holds a link for every image whose mount point has white
-    // space in its name; without one it is what the system has for that.
-    explicit DesktopVolumes(const QDBusConnection& bus = QDBusConnection::systemBus(),
-                            const QString& folder = {});
+    // space in its name; without one it is what the system has for that. Without a bus it is the
+    // system's, which most commands never need and which is not connected to before.
+    explicit DesktopVolumes(std::optional<QDBusConnection> bus = {}, const QString& folder = {});
 
     MountResult mountImage(const QString& image) override;
     QString unmountImage(const QString& path, bool force) override;
@@ -44,7 +46,7 @@ private:
     MountResult mountObject(const QString& object, const QVariantMap& options) const;
     QString pathWithoutBlanks(const QString& path, const QString& device) const;
 
-    QDBusConnection connection;
+    std::optional<QDBusConnection> connection;
     QString links;
     int patience = 15000;
 };

@@ -6,6 +6,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QGenericPlugin>
@@ -14,7 +15,6 @@
 #include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
-#include <QProgressBar>
 #include <QRadioButton>
 
 #include <cstdio>
@@ -23,6 +23,9 @@ namespace
 {
 
 constexpr int intervalMs = 150;
+// How much longer than a look the time to the next one is, at least: who looks on must not hold up
+// what is looked at.
+constexpr int restFactor = 20;
 
 QString textOf(const QWidget* widget)
 {
@@ -33,8 +36,6 @@ QString textOf(const QWidget* widget)
         return field->displayText();
     if (const auto* const list = qobject_cast<const QComboBox*>(widget))
         return list->currentText();
-    if (const auto* const bar = qobject_cast<const QProgressBar*>(widget))
-        return QString::number(bar->value());
     return {};
 }
 
@@ -56,6 +57,7 @@ QJsonObject description(const QWidget* widget)
                           {"text", textOf(widget)},
                           {"x", middle.x()},
                           {"y", middle.y()},
+                          {"hovered", widget->underMouse()},
                           {"usable", widget->isEnabled() && (!modal || widget->window() == modal)}};
     if (const auto* const list = qobject_cast<const QComboBox*>(widget)) {
         QJsonArray entries;
@@ -98,7 +100,7 @@ public:
 ScreenReader::ScreenReader(const QString& file)
     : path(file)
 {
-    startTimer(intervalMs);
+    timer.start(intervalMs, this);
     QCoreApplication::instance()->installEventFilter(this);
 }
 
@@ -119,6 +121,14 @@ void ScreenReader::timerEvent(QTimerEvent*)
     if (!isStale)
         return;
     isStale = false;
+    QElapsedTimer clock;
+    clock.start();
+    look();
+    timer.start(qMax(intervalMs, restFactor * static_cast<int>(clock.elapsed())), this);
+}
+
+void ScreenReader::look()
+{
     const QByteArray now = screen();
     if (now == last)
         return;

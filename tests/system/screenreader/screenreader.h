@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QBasicTimer>
 #include <QByteArray>
 #include <QObject>
 #include <QString>
@@ -23,6 +24,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void look();
+
+    QBasicTimer timer;
     QString path;
     QByteArray last;
     // Something has happened since it was last looked; looking takes an emulated machine its time.

@@ -107,14 +107,33 @@ bool GuestProgram::waitUntilUsable(const QString& owner, const QString& widget, 
            fail(widget + " of " + owner + " cannot be used");
 }
 
-bool GuestProgram::clickOn(const QString& owner, const QString& widget)
+// Afterwards more can be done in the same call of xdotool, which takes a while to start.
+bool GuestProgram::moveTo(const QString& owner, const QString& widget, const QString& afterwards)
 {
     QJsonObject found;
     // The picture buttons go by where the mouse has come from.
     return waitUntilUsable(owner, widget, &found) &&
-           input(QString("mousemove 2 2 sleep 0.1 mousemove %1 %2 sleep 0.1 click 1")
-                     .arg(found.value("x").toInt())
-                     .arg(found.value("y").toInt()));
+           input(QString("mousemove 2 2 sleep 0.1 mousemove %1 %2 %3")
+                     .arg(QString::number(found.value("x").toInt()),
+                          QString::number(found.value("y").toInt()), afterwards));
+}
+
+bool GuestProgram::clickOn(const QString& owner, const QString& widget)
+{
+    return moveTo(owner, widget, "sleep 0.1 click 1");
+}
+
+bool GuestProgram::pointAt(const QString& widget)
+{
+    return moveTo(program, widget, {}) &&
+           (waitUntil([&] { return find(program, widget).value("hovered").toBool(); },
+                      usualSeconds) ||
+            fail("the mouse does not reach " + widget));
+}
+
+bool GuestProgram::click()
+{
+    return input("click 1");
 }
 
 bool GuestProgram::click(const QString& widget)

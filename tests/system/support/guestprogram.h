@@ -27,6 +27,9 @@ public:
 
     // Waits until the widget can be used and clicks on its middle.
     bool click(const QString& widget);
+    // The same in two steps: moves the mouse there, and clicks where it is.
+    bool pointAt(const QString& widget);
+    bool click();
     // Empties the field and types into it.
     bool enter(const QString& field, const QString& text);
     // Opens a list that drops down, and closes it without a choice.
@@ -54,6 +57,7 @@ private:
     bool typeText(const QString& text);
     bool waitUntilUsable(const QString& program, const QString& widget, QJsonObject* found);
     bool waitForList(const QString& list, bool open);
+    bool moveTo(const QString& program, const QString& widget, const QString& afterwards);
     bool clickOn(const QString& program, const QString& widget);
     QJsonArray widgets(const QString& program) const;
     QJsonObject find(const QString& program, const QString& widget) const;
