@@ -19,12 +19,14 @@ namespace
 {
 
 const qint64 fourGibibytes = 4294967296LL;
+const qint64 partBytes = 3800LL * 1024 * 1024;
+constexpr int splitLimitMs = 200000;
 
 void runWimlib(const QStringList& arguments)
 {
     QProcess wimlib;
     wimlib.start(KORVEX_REAL_WIMLIB, arguments);
-    QVERIFY2(wimlib.waitForFinished(60000) && wimlib.exitCode() == 0,
+    QVERIFY2(wimlib.waitForFinished(300000) && wimlib.exitCode() == 0,
              wimlib.readAllStandardError().constData());
 }
 
@@ -46,6 +48,7 @@ class TstUsbWrite : public TestCase
 private slots:
     void contentIsCopied();
     void largeInstallWimIsSplit();
+    void partsAreAsLargeAsFatAllows();
 };
 
 void TstUsbWrite::contentIsCopied()
@@ -93,6 +96,32 @@ void TstUsbWrite::largeInstallWimIsSplit()
     runWimlib(join);
     runWimlib({"apply", fixture.path("joined.wim"), "1", fixture.path("applied")});
     QCOMPARE(hashesBelow(fixture.path("applied")), hashesBelow(fixture.path("windows")));
+}
+
+void TstUsbWrite::partsAreAsLargeAsFatAllows()
+{
+    UsbWriteFixture fixture;
+    const QString wim = fixture.mountedImage() + "/sources/install.wim";
+    // Zeros that take no room. Two different files, together too large for one part.
+    for (const qint64 bytes : {partBytes / 2, partBytes / 2 + 1}) {
+        const QString path = fixture.path(QString("windows/%1.vhd").arg(bytes));
+        writeFile(path, {});
+        QVERIFY(QFile::resize(path, bytes));
+    }
+    writeFile(fixture.mountedImage() + "/sources/boot.wim", "kept");
+    makeImage(fixture.mountedImage(), fixture.image());
+    runWimlib({"capture", fixture.path("windows"), wim, "--compress=none"});
+    QVERIFY(QFile::resize(wim, fourGibibytes));
+    fixture.drives.on("7z", {"..."}, {DriveScenario::becoming(KORVEX_REAL_7Z)});
+    fixture.drives.on("wimlib-imagex", {"..."}, {DriveScenario::becoming(KORVEX_REAL_WIMLIB)});
+    QCOMPARE(fixture.write(splitLimitMs).value(1), QString("Burning Successfully..."));
+
+    const QDir sources(fixture.stick() + "/sources");
+    QCOMPARE(entriesOf(sources.path()), QStringList({"boot.wim", "install.swm", "install2.swm"}));
+    for (const QFileInfo& part : sources.entryInfoList(QDir::Files))
+        QVERIFY(part.size() <= partBytes);
+    runWimlib(
+        {"verify", sources.filePath("install.swm"), "--ref=" + sources.filePath("install2.swm")});
 }
 
 KORVEX_TEST_MAIN(TstUsbWrite)

@@ -24,8 +24,11 @@ private:
     static void checkStick(const QString& file, QMap<QString, QByteArray> content,
                            const QMap<QString, QByteArray>& imageContent);
     // A Windows installation disc whose archive of images is larger than a file of FAT can be,
-    // though most of it is zeros that take no room on the disk.
+    // though most of it is a hole behind the archive's end. (An archive that makes more than one
+    // part takes an emulated machine ten minutes; the test of the writer splits one.)
     void makeWindowsImage(const QString& image);
+    // That archive without the hole.
+    QString windowsArchive() const { return folder.filePath("install.wim"); }
     void partsMakeTheArchive(const QString& stick);
 
     // All of it but that archive.
@@ -109,23 +112,17 @@ void TstBurnUsb::makeWindowsImage(const QString& image)
     const QString installed = folder.filePath("installed");
     writeFile(installed + "/explorer.exe", "explorer");
     writeRandomFile(installed + "/large.dll", 3 * megabyte, 3);
-    // Two different files of zeros, neither of which fills a part alone.
-    for (const qint64 bytes : {2 * gigabyte, 2 * gigabyte + megabyte}) {
-        const QString path = QString("%1/%2.vhd").arg(installed).arg(bytes);
-        writeFile(path, {});
-        QVERIFY(QFile::resize(path, bytes));
-    }
     writeFile(content + "/setup.exe", "setup");
     writeFile(content + "/bootmgr", bootManager(managerText));
     writeFile(content + "/sources/boot.wim", "boot");
     windowsContent = hashesBelow(content);
-    const QString archive = content + "/sources/install.wim";
     runHere(QString("'%1/wimlib-imagex/wimlib-imagex' capture --compress=none '%2' '%3'\n"
-                    "fallocate --dig-holes '%3'\n"
+                    "cp '%3' '%4/sources/install.wim'\n"
+                    "truncate -s 4G '%4/sources/install.wim'\n"
                     "'%1/cdrtools/mkisofs' -quiet -udf -allow-limited-size -r -V WIN '%4' |\n"
                     "    dd conv=sparse bs=1M iflag=fullblock status=none of='%5'")
-                .arg(QCoreApplication::applicationDirPath(), installed, archive, content, image));
-    QVERIFY(QFileInfo(archive).size() > 4 * gigabyte);
+                .arg(QCoreApplication::applicationDirPath(), installed, windowsArchive(), content,
+                     image));
 }
 
 void TstBurnUsb::largeInstallWimIsSplit()
@@ -144,29 +141,20 @@ void TstBurnUsb::largeInstallWimIsSplit()
     QCOMPARE(output("losetup --list --noheadings"), "");
     STEP(pull());
     STEP(partsMakeTheArchive(file));
-    // What is left without them takes no time to read.
-    const QString rest = folder.filePath("windows-rest");
-    STEP(runHere(QString("cp --sparse=always '%1' '%2'\n"
-                         "MTOOLS_SKIP_CHECK=1 mdel -i '%2@@1M' ::/sources/install.swm "
-                         "::/sources/install2.swm")
-                     .arg(file, rest)));
-    const QMap<QString, QByteArray> content = contentOf(rest);
-    QCOMPARE(content.count("sources/install.wim") + content.count("sources/install3.swm"), 0);
+    const QMap<QString, QByteArray> content = contentOf(file);
+    QCOMPARE(content.count("sources/install.wim"), 0);
     STEP(checkStick(file, content, windowsContent));
 }
 
 void TstBurnUsb::partsMakeTheArchive(const QString& stick)
 {
     // They are alike but for the number in the head that tells one archive from another.
-    runHere(QString("for part in install install2; do\n"
-                    "    MTOOLS_SKIP_CHECK=1 mcopy -i '%1@@1M' ::/sources/$part.swm - |\n"
-                    "        dd conv=sparse bs=1M iflag=fullblock status=none of='%2/'$part.swm\n"
-                    "done\n"
-                    "'%3/wimlib-imagex/wimlib-imagex' join '%2/joined.wim' '%2'/install*.swm\n"
-                    "cmp --ignore-initial=40 '%2/joined.wim' '%4'\n"
-                    "rm '%2/joined.wim'")
-                .arg(stick, folder.path(), QCoreApplication::applicationDirPath(),
-                     folder.filePath("windows-content/sources/install.wim")));
+    const QString parts = folder.filePath("parts");
+    QVERIFY(QDir().mkdir(parts));
+    STEP(copyFrom(stick, "/sources/install*.swm", parts));
+    runHere(QString("'%1/wimlib-imagex/wimlib-imagex' join '%2/joined.wim' '%2'/install*.swm\n"
+                    "cmp --ignore-initial=40 '%2/joined.wim' '%3'")
+                .arg(QCoreApplication::applicationDirPath(), parts, windowsArchive()));
 }
 
 KORVEX_TEST_MAIN(TstBurnUsb)
