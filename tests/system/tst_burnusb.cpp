@@ -79,7 +79,7 @@ void TstBurnUsb::stickBecomesBootable()
     SUCCEED(!node.isEmpty());
     STEP(prepareBurn(linuxImage, node, label, fat));
     USE(program.waitForText("all data in it will be deleted!"));
-    STEP(saveScreen("system-burn"));
+    STEP(saveScreen(QString("system-burn-") + QTest::currentDataTag()));
     STEP(confirm());
     USE(program.enterPassword("tester"));
     USE(program.waitForText("Burning Successfully...", burnSeconds));
