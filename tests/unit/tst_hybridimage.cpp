@@ -23,6 +23,7 @@ private slots:
     void imageHoldsTheFiles();
     void existingImageIsReplaced();
     void failureLeavesTheExistingImage();
+    void otherFilesAreNotTouched();
     void refused_data();
     void refused();
     void labelIsThatOfTheDisc();
@@ -115,6 +116,20 @@ void TstHybridImage::failureLeavesTheExistingImage()
                           "hdiutil: makehybrid failed - mkisofs: Input/output error.", "1"}));
     QCOMPARE(readFile(tools.filePath("out/x.iso")), QByteArray("old"));
     QCOMPARE(entriesOf(tools.filePath("out")), QStringList("x.iso"));
+}
+
+void TstHybridImage::otherFilesAreNotTouched()
+{
+    const QTemporaryDir folder;
+    writeFile(folder.filePath("source/a"), "new");
+    writeFile(folder.filePath("x.iso.unfinished"), "mine");
+    QVERIFY(QFile::link("nowhere", folder.filePath("x.iso.unfinished2")));
+    QCOMPARE(made(folder.filePath("x.iso"), folder.filePath("source")).last(), QString("0"));
+    QCOMPARE(readFile(folder.filePath("x.iso.unfinished")), QByteArray("mine"));
+    QCOMPARE(QFile::symLinkTarget(folder.filePath("x.iso.unfinished2")),
+             folder.filePath("nowhere"));
+    QCOMPARE(extractedFile(folder.filePath("x.iso"), "a"), QByteArray("new"));
+    QVERIFY(!QFile::exists(folder.filePath("x.iso.unfinished3")));
 }
 
 void TstHybridImage::refused_data()

@@ -39,6 +39,16 @@ QString mkisofs()
     return ours.isEmpty() ? QString("mkisofs") : ours;
 }
 
+// Where the image is written until it is complete: nothing that is there already.
+QString unfinishedPath(const QString& image)
+{
+    const QString first = image + ".unfinished";
+    QString path = first;
+    for (int number = 2; QFileInfo::exists(path) || QFileInfo(path).isSymLink(); ++number)
+        path = first + QString::number(number);
+    return path;
+}
+
 // Replaces the image by the finished one; empty on success.
 QString replaceBy(const QString& finished, const QString& image)
 {
@@ -98,7 +108,7 @@ int makeHybridImage(const QString& image, const QString& folder)
     if (target.startsWith(QDir::cleanPath(source) + '/'))
         return fail("The image lies inside of what it is made of");
     say("Creating hybrid image...");
-    const QString unfinished = target + ".unfinished";
+    const QString unfinished = unfinishedPath(target);
     ProgressTeller progress;
     QString error =
         followProgram(mkisofs(),
