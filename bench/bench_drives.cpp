@@ -41,7 +41,7 @@ public:
     }
 
     // Milliseconds of the copy to a stick: by the archiver and sync, and by the program from the
-    // message that says so to that at the end.
+    // message that says so to that at the end; and what the program did before the last such copy.
     double bareBurn()
     {
         const QString node = plugStick();
@@ -52,7 +52,7 @@ public:
         require(machine.unplugStick(serial()));
         return time;
     }
-    double burn(Samples& preparation)
+    double burn()
     {
         const QString node = plugStick();
         use(program.click("burn") && program.click("CBurnDialog/rusb") &&
@@ -63,13 +63,15 @@ public:
         clock.start();
         use(program.click("btnok") && program.enterPassword("tester") &&
             program.waitForText("Burning the USB disk...", limitSeconds));
-        preparation.add(static_cast<double>(clock.restart()));
+        preparationTime = static_cast<double>(clock.restart());
         use(program.waitForText("Burning Successfully...", limitSeconds));
         const auto time = static_cast<double>(clock.elapsed());
         use(program.click("CommDialog/btnok") && program.click("CBurnDialog/back"));
         require(machine.unplugStick(serial()));
         return time;
     }
+
+    double preparation() const { return preparationTime; }
 
     // The same for an image of the disc in the drive, until the tool's end.
     double bareCopy()
@@ -139,6 +141,7 @@ private:
     GuestProgram program{machine};
     QString isoPath;
     int sticks = 0;
+    double preparationTime = 0;
 };
 
 // Emulation needs all of the processors: a run in which others took more than this is repeated.
@@ -163,7 +166,8 @@ void measureSticks(DriveBench& bench)
     Samples preparations;
     for (int run = 0; run < runs; ++run) {
         bare.add(undisturbed([&] { return bench.bareBurn(); }));
-        burns.add(undisturbed([&] { return bench.burn(preparations); }));
+        burns.add(undisturbed([&] { return bench.burn(); }));
+        preparations.add(bench.preparation());
     }
     printTitle(QString("USB stick, %1 files of %2 MB").arg(files).arg(megabytesEach));
     printSamples("7z x and sync", bare, "ms");

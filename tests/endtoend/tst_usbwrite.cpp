@@ -48,7 +48,7 @@ class TstUsbWrite : public TestCase
 private slots:
     void contentIsCopied();
     void largeInstallWimIsSplit();
-    void partsAreAsLargeAsFatAllows();
+    void partsAreOfTheirRealSize();
 };
 
 void TstUsbWrite::contentIsCopied()
@@ -98,7 +98,7 @@ void TstUsbWrite::largeInstallWimIsSplit()
     QCOMPARE(hashesBelow(fixture.path("applied")), hashesBelow(fixture.path("windows")));
 }
 
-void TstUsbWrite::partsAreAsLargeAsFatAllows()
+void TstUsbWrite::partsAreOfTheirRealSize()
 {
     UsbWriteFixture fixture;
     const QString wim = fixture.mountedImage() + "/sources/install.wim";

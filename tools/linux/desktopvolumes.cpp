@@ -18,6 +18,8 @@
 #include <QStandardPaths>
 #include <QThread>
 
+#include <utility>
+
 namespace
 {
 

@@ -3,7 +3,6 @@
 
 #include "discburner.h"
 
-#include "burnprogress.h"
 #include "followedprogram.h"
 #include "printing.h"
 
@@ -43,7 +42,7 @@ QStringList burnArguments(const QString& image, const QString& driveAddress)
             QFileInfo(image).absoluteFilePath()};
 }
 
-int burnImage(const QString& image, const QString& driveAddress)
+int burnImage(const QString& image, const QString& driveAddress, ProgressTeller progress)
 {
     say("Preparing data for burn");
     QFile file(image);
@@ -56,7 +55,6 @@ int burnImage(const QString& image, const QString& driveAddress)
     say("Opening session");
     say("Opening track");
     say("Writing track");
-    ProgressTeller progress;
     const QString error = followProgram("xorriso", burnArguments(image, driveAddress),
                                         [&progress](const QString& line) {
                                             if (const auto part = readBurnProgress(line))

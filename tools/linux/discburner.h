@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "burnprogress.h"
 #include "opticaldrive.h"
 
 #include <QString>
@@ -17,5 +18,6 @@ QString blankDiscDrive(const QList<OpticalDrive>& drives);
 // Arguments of xorriso that write the image to the drive and eject the disc.
 QStringList burnArguments(const QString& image, const QString& driveAddress);
 
-// Burns, says the steps and the progress, and returns the exit code.
-int burnImage(const QString& image, const QString& driveAddress);
+// Burns, says the steps and, as the teller does, the progress, and returns the exit code.
+int burnImage(const QString& image, const QString& driveAddress,
+              ProgressTeller progress = ProgressTeller());

@@ -3,7 +3,6 @@
 
 #include "hybridimage.h"
 
-#include "burnprogress.h"
 #include "followedprogram.h"
 #include "lsblk.h"
 #include "mkisofsprogress.h"
@@ -97,7 +96,7 @@ QString volumeLabelOf(const QString& folder, const QList<MountedVolume>& table)
     return QFileInfo(path).fileName();
 }
 
-int makeHybridImage(const QString& image, const QString& folder)
+int makeHybridImage(const QString& image, const QString& folder, ProgressTeller progress)
 {
     if (folder.isEmpty() || !QFileInfo(folder).isDir())
         return fail("No such file or directory");
@@ -109,7 +108,6 @@ int makeHybridImage(const QString& image, const QString& folder)
         return fail("The image lies inside of what it is made of");
     say("Creating hybrid image...");
     const QString unfinished = unfinishedPath(target);
-    ProgressTeller progress;
     QString error =
         followProgram(mkisofs(),
                       hybridArguments(unfinished, source, volumeLabelOf(source, mountTable()),

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "burnprogress.h"
 #include "mountedvolumes.h"
 
 #include <QString>
@@ -24,6 +25,7 @@ bool holdsLargeFile(const QString& folder);
 // The label of the disc that is mounted at the folder by that table, or the folder's name.
 QString volumeLabelOf(const QString& folder, const QList<MountedVolume>& table);
 
-// Makes the image, replacing one that exists once the new one is complete; says the progress and
-// returns the exit code.
-int makeHybridImage(const QString& image, const QString& folder);
+// Makes the image, replacing one that exists once the new one is complete; says the progress as the
+// teller does and returns the exit code.
+int makeHybridImage(const QString& image, const QString& folder,
+                    ProgressTeller progress = ProgressTeller());
