@@ -188,7 +188,7 @@ void TstCBurnDialogUsbTools::nothingIsLeftBehind()
     const int descriptors = descriptorCount();
     const int children = fixture.page->children().size();
     fixture.write();
-    QCOMPARE(runnerThreadCount(), 0);
+    QTRY_COMPARE(runnerThreadCount(), 0);
     QCOMPARE(childProcesses(), QList<qint64>());
     QCOMPARE(processesOf("scripteddrive"), QList<qint64>());
     QCOMPARE(descriptorCount(), descriptors);

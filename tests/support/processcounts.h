@@ -8,7 +8,8 @@
 
 // What a test process and its children hold at the moment, read from the system's process table.
 
-// The threads of runners; each has one while its tool runs or is being stopped.
+// The threads of runners; each has one while its tool runs or is being stopped. A thread that has
+// been waited for can still be counted for a moment: it says from within that it has ended.
 int runnerThreadCount();
 int descriptorCount();
 qint64 residentKilobytes();

@@ -165,13 +165,13 @@ void TstCRunCommandThread::fiftyRunsLeaveNothingBehind()
     Run first;
     QVERIFY(first.finish());
     QVERIFY(QTest::qWaitFor([&first] { return first.runner.isFinished(); }, stopLimitMs));
-    QCOMPARE(runnerThreadCount(), 0);
+    QTRY_COMPARE(runnerThreadCount(), 0);
     const int descriptors = descriptorCount();
     for (int i = 0; i < 50; ++i) {
         Run run;
         QVERIFY(run.finish());
     }
-    QCOMPARE(runnerThreadCount(), 0);
+    QTRY_COMPARE(runnerThreadCount(), 0);
     QVERIFY(descriptorCount() <= descriptors);
 }
 
