@@ -62,9 +62,9 @@ QStringList machineArguments(const QString& folder)
         "-device",
         "virtio-serial-pci",
         "-chardev",
-        "socket,id=agent,path=" + folder + "/agent",
+        "socket,id=commands,path=" + folder + "/commands",
         "-device",
-        "virtserialport,chardev=agent,name=korvex.agent",
+        "virtserialport,chardev=commands,name=korvex.commands",
         "-device",
         "qemu-xhci,id=usb",
         "-device",
@@ -92,9 +92,9 @@ bool VirtualMachine::start()
     constexpr auto everyone = QFile::Permissions(0x7777);
     if (!folder.mkpath("share/commands") || !folder.mkpath("images") ||
         !QFile::setPermissions(sharedFolder(), everyone) ||
-        !agentServer.listen(folder.filePath("agent")))
+        !commandServer.listen(folder.filePath("commands")))
         return fail("no shared folder");
-    if (!emulator.start(machineArguments(folder.path())) || !connectAgent() ||
+    if (!emulator.start(machineArguments(folder.path())) || !connectCommandRunner() ||
         !emulator.execute("cont"))
         return fail(emulator.problem());
     QByteArray line;
@@ -114,15 +114,15 @@ VirtualMachine::Result VirtualMachine::run(const QString& script, User user, int
     const QString base = sharedFolder() + "/commands/" + QString::number(number);
     QFile file(base + ".sh");
     const QString preset = QString("PROGRAM=%1 SHARE=%2\n").arg(program, guestFolder);
-    if (!agent || !file.open(QIODevice::WriteOnly) ||
+    if (!commandRunner || !file.open(QIODevice::WriteOnly) ||
         file.write((preset + script + "\n").toUtf8()) < 0)
         return fail("the script cannot be written"), result;
     file.close();
     file.setPermissions(QFile::Permissions(0x4444));
-    agent->write(QString("%1 %2 %3\n")
-                     .arg(QString::number(number), user == User::Root ? "root" : "tester",
-                          QString::number(limitSeconds))
-                     .toUtf8());
+    commandRunner->write(QString("%1 %2 %3\n")
+                             .arg(QString::number(number), user == User::Root ? "root" : "tester",
+                                  QString::number(limitSeconds))
+                             .toUtf8());
     QByteArray line;
     while (readAnswer(&line, limitSeconds * 1000 + answerGrace)) {
         const QList<QByteArray> words = line.split(' ');
@@ -234,12 +234,12 @@ QString VirtualMachine::problem() const
                           : "");
 }
 
-bool VirtualMachine::connectAgent()
+bool VirtualMachine::connectCommandRunner()
 {
-    if (!agentServer.waitForNewConnection(answerGrace))
+    if (!commandServer.waitForNewConnection(answerGrace))
         return fail("the emulator has no channel for commands");
-    agent.reset(agentServer.nextPendingConnection());
-    agent->setParent(nullptr);
+    commandRunner.reset(commandServer.nextPendingConnection());
+    commandRunner->setParent(nullptr);
     return true;
 }
 
@@ -247,12 +247,12 @@ bool VirtualMachine::readAnswer(QByteArray* line, int milliseconds)
 {
     QElapsedTimer timer;
     timer.start();
-    while (!agent->canReadLine()) {
+    while (!commandRunner->canReadLine()) {
         const int left = milliseconds - static_cast<int>(timer.elapsed());
-        if (left <= 0 || !agent->waitForReadyRead(left))
+        if (left <= 0 || !commandRunner->waitForReadyRead(left))
             return fail("the machine does not answer");
     }
-    *line = agent->readLine().trimmed();
+    *line = commandRunner->readLine().trimmed();
     return true;
 }
 

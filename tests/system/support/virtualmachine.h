@@ -90,13 +90,13 @@ public:
     QString problem() const;
 
 private:
-    bool connectAgent();
+    bool connectCommandRunner();
     bool readAnswer(QByteArray* line, int milliseconds);
     bool fail(const QString& text);
 
     Emulator emulator;
-    QLocalServer agentServer;
-    std::unique_ptr<QLocalSocket> agent;
+    QLocalServer commandServer;
+    std::unique_ptr<QLocalSocket> commandRunner;
     int lastCommand = 0;
     QString trouble;
 };
