@@ -11,7 +11,7 @@
 
 #include <memory>
 
-// The drives of a scenario as the program sees them, and the way through sudo to the boot tool.
+// The drives of a scenario as the program sees them.
 class TstDriveScenarioDrives : public TestCase
 {
     Q_OBJECT
@@ -31,57 +31,30 @@ private slots:
     void imageIsMountedAndUnmounted();
     void imageWithBlanksCannotBeUnmountedWithoutThem();
     void nextScenarioIsSeenByTheProgram();
-    void sudoRunsTheBootTool_data();
-    void sudoRunsTheBootTool();
-    void sudoPassesTheStatusOfTheBootToolOn();
-    void sudoWithoutPasswordRunsNothing_data();
-    void sudoWithoutPasswordRunsNothing();
-    void sudoWithoutAskpassRunsNothing();
-    void sudoOfAMissingToolFails();
     void toolsBesideTheProgramAreStandIns();
 
 private:
     // What the program reads from a tool.
     static QString text(const QString& command);
-    // Runs the boot tool as the program does; the exit status of the shell.
-    int runBootTool(const QString& askpass, const QString& mountPoint);
-    QString askpassThat(const QByteArray& body);
-    QString bootTool() const { return Util::GetCurrentExePath() + "/mkbootable"; }
 
     std::unique_ptr<DriveScenario> scenario;
-    std::unique_ptr<QTemporaryDir> folder;
 };
 
 void TstDriveScenarioDrives::init()
 {
     TestCase::init();
-    folder = std::make_unique<QTemporaryDir>();
     scenario = std::make_unique<DriveScenario>();
 }
 
 void TstDriveScenarioDrives::cleanup()
 {
     scenario.reset();
-    folder.reset();
     TestCase::cleanup();
 }
 
 QString TstDriveScenarioDrives::text(const QString& command)
 {
     return QString::fromUtf8(runCommandText(command, {}, 30000));
-}
-
-QString TstDriveScenarioDrives::askpassThat(const QByteArray& body)
-{
-    return writeScript(folder->filePath("ask pass"), body);
-}
-
-int TstDriveScenarioDrives::runBootTool(const QString& askpass, const QString& mountPoint)
-{
-    const QString command = "SUDO_ASKPASS='" + askpass + "' sudo --askpass '" + bootTool() +
-                            "' /dev/disk2 " + mountPoint + " > " + folder->filePath("log") +
-                            " 2>&1";
-    return runTool("/bin/bash", {"-c", command}).status;
 }
 
 void TstDriveScenarioDrives::machineWithoutDrivesHasItsOwnDisk()
@@ -212,82 +185,6 @@ void TstDriveScenarioDrives::nextScenarioIsSeenByTheProgram()
     scenario->addUsbDisk("/dev/disk3");
     QVERIFY(text("diskutil list").contains("disk3"));
     QCOMPARE(scenario->commands(), (QList<QStringList>{{"diskutil", "list"}}));
-}
-
-void TstDriveScenarioDrives::sudoRunsTheBootTool_data()
-{
-    QTest::addColumn<QString>("mountPoint");
-    QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("plain") << "/Volumes/STICK" << QStringList{"/dev/disk2", "/Volumes/STICK"};
-    QTest::newRow("shell splits at blanks")
-        << "/Volumes/MY STICK" << QStringList{"/dev/disk2", "/Volumes/MY", "STICK"};
-    QTest::newRow("shell drops an empty one") << "" << QStringList{"/dev/disk2"};
-}
-
-void TstDriveScenarioDrives::sudoRunsTheBootTool()
-{
-    QFETCH(QString, mountPoint);
-    QFETCH(QStringList, arguments);
-    UsbDisk disk;
-    disk.mountPoint = mountPoint;
-    scenario->addUsbDisk("/dev/disk2", disk);
-    const QString askpass = askpassThat("printf '%s\\n' 's3cret word'\n");
-    QCOMPARE(runBootTool(askpass, mountPoint), 0);
-    const QList<DriveCall> calls = scenario->calls();
-    QCOMPARE(scenario->callsOf("sudo"),
-             (QList<QStringList>{QStringList{"--askpass", bootTool()} + arguments}));
-    QCOMPARE(scenario->callsOf("mkbootable"), QList<QStringList>{arguments});
-    QVERIFY(scenario->unmatchedCalls().isEmpty());
-    QCOMPARE(calls[0].environment.value("SUDO_ASKPASS"), askpass);
-    QCOMPARE(calls[0].passwords, 1);
-    QCOMPARE(calls[0].refusals, 0);
-    QVERIFY(calls[1].begun > calls[0].begun && calls[1].ended < calls[0].ended);
-    const QByteArray record = readFile(qEnvironmentVariable("KORVEX_SCENARIO") + ".calls");
-    QVERIFY(record.contains("mkbootable"));
-    QVERIFY(!record.contains("s3cret"));
-}
-
-void TstDriveScenarioDrives::sudoPassesTheStatusOfTheBootToolOn()
-{
-    scenario->on("mkbootable", {"..."}, {"out done", "exit 23"});
-    QCOMPARE(runBootTool(askpassThat("echo word\n"), "/mnt"), 23);
-    QCOMPARE(readFile(folder->filePath("log")), QByteArray("done"));
-}
-
-void TstDriveScenarioDrives::sudoWithoutPasswordRunsNothing_data()
-{
-    QTest::addColumn<QByteArray>("body");
-    QTest::newRow("silent") << QByteArray("exit 0\n");
-    QTest::newRow("cancelled") << QByteArray("exit 1\n");
-    QTest::newRow("empty line") << QByteArray("echo\n");
-}
-
-void TstDriveScenarioDrives::sudoWithoutPasswordRunsNothing()
-{
-    QFETCH(QByteArray, body);
-    QCOMPARE(runBootTool(askpassThat(body), "/mnt"), 1);
-    QVERIFY(scenario->callsOf("mkbootable").isEmpty());
-    QCOMPARE(scenario->calls().value(0).passwords, 0);
-    QCOMPARE(scenario->calls().value(0).refusals, 1);
-    QCOMPARE(readFile(folder->filePath("log")),
-             QByteArray("sudo: no password was provided\nsudo: a password is required\n"));
-}
-
-void TstDriveScenarioDrives::sudoWithoutAskpassRunsNothing()
-{
-    QCOMPARE(runBootTool("/no/such/file", "/mnt"), 1);
-    QVERIFY(readFile(folder->filePath("log"))
-                .startsWith("sudo: unable to run /no/such/file: No such file or directory\n"));
-    QCOMPARE(runTool("sudo", {"--askpass", "sync"}).status, 1);
-    QVERIFY(scenario->callsOf("mkbootable").isEmpty());
-    QVERIFY(scenario->callsOf("sync").isEmpty());
-}
-
-void TstDriveScenarioDrives::sudoOfAMissingToolFails()
-{
-    scenario->on("sudo", {"..."}, {"execute"});
-    QCOMPARE(runTool("sudo", {"--askpass", "/no/such/tool", "-x"}).status, 1);
-    QCOMPARE(scenario->calls().size(), 1);
 }
 
 void TstDriveScenarioDrives::toolsBesideTheProgramAreStandIns()

@@ -1,66 +1,16 @@
 // Copyright (c) 2026 The Korvex ISO Editor developers
 // SPDX-License-Identifier: MIT
 
+#include "picturelist.h"
 #include "testcase.h"
 #include "testmain.h"
 
-#include <QFile>
 #include <QHash>
-#include <QImage>
-#include <QRegularExpression>
 
-#include <algorithm>
-#include <cmath>
+#include <cstdlib>
 
 namespace
 {
-
-// One line of the list of pictures.
-struct Entry
-{
-    QString name;
-    QString kind;
-    QSize size;
-    QString states;
-
-    // Resource paths in the order of the states.
-    QStringList paths() const
-    {
-        if (states == "-")
-            return {":/nwu/" + name};
-        QStringList all;
-        for (int i = 1; i <= states.size(); ++i)
-            all.append(QString(":/nwu/%1%2").arg(name).arg(i));
-        return all;
-    }
-};
-
-QString contents(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-QVector<Entry> readList()
-{
-    static const QRegularExpression form(R"(^([^# ]\S*) +(\S+) +\S+ +(\d+)x(\d+) +(\S+)$)",
-                                         QRegularExpression::MultilineOption);
-    QVector<Entry> entries;
-    QRegularExpressionMatchIterator matches = form.globalMatch(contents(KORVEX_PICTURE_LIST));
-    while (matches.hasNext()) {
-        const QRegularExpressionMatch match = matches.next();
-        entries.append({match.captured(1),
-                        match.captured(2),
-                        {match.captured(3).toInt(), match.captured(4).toInt()},
-                        match.captured(5)});
-    }
-    return entries;
-}
-
-QImage load(const QString& path)
-{
-    return QImage(path).convertToFormat(QImage::Format_ARGB32);
-}
 
 // Share of the pixels, in percent, that an eye would see change between two pictures of one size.
 double changedPercent(const QImage& a, const QImage& b)
@@ -77,33 +27,6 @@ double changedPercent(const QImage& a, const QImage& b)
         }
     }
     return 100.0 * changed / (a.width() * a.height());
-}
-
-double luminance(const QColor& color)
-{
-    const auto linear = [](double part) {
-        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-           0.0722 * linear(color.blueF());
-}
-
-// From 1 (none) to 21.
-double contrast(const QColor& a, const QColor& b)
-{
-    const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
-    return (lighter + 0.05) / (darker + 0.05);
-}
-
-// Least contrast for texts of the captions' size.
-constexpr double readable = 4.5;
-
-// Where the texts of a button or a tile are painted: on a tile below the symbol.
-QRect captionArea(const QSize& picture)
-{
-    if (picture.height() > 100)
-        return {picture.width() / 4, 115, picture.width() / 2, 55};
-    return QRect({0, 0}, picture).adjusted(6, 6, -6, -6);
 }
 
 } // namespace
@@ -127,25 +50,21 @@ private slots:
     void dialogsLeaveTheirTextsAndButtonsAPlainGround();
     void pagesHideWhatLiesUnderThem_data();
     void pagesHideWhatLiesUnderThem();
-    void whiteCaptionsCanBeRead_data();
-    void whiteCaptionsCanBeRead();
-    void symbolsInPlaceOfCaptionsCanBeSeen_data();
-    void symbolsInPlaceOfCaptionsCanBeSeen();
 };
 
 void TstPictures::initTestCase()
 {
     Q_INIT_RESOURCE(pictures);
-    QVERIFY(!readList().isEmpty());
+    QVERIFY(!listedPictures().isEmpty());
 }
 
 void TstPictures::everyPictureIsThereAtBothResolutions_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QSize>("size");
-    for (const Entry& entry : readList()) {
-        for (const QString& path : entry.paths())
-            QTest::newRow(qPrintable(path)) << path << entry.size;
+    for (const ListedPicture& picture : listedPictures()) {
+        for (const QString& path : picture.paths())
+            QTest::newRow(qPrintable(path)) << path << picture.size;
     }
 }
 
@@ -164,8 +83,8 @@ void TstPictures::everyPictureIsThereAtBothResolutions()
 void TstPictures::noTwoNamesAreOneWhereCaseDoesNotCount()
 {
     QHash<QString, QString> seen;
-    for (const Entry& entry : readList()) {
-        for (const QString& path : entry.paths()) {
+    for (const ListedPicture& picture : listedPictures()) {
+        for (const QString& path : picture.paths()) {
             const QString folded = path.toCaseFolded();
             QVERIFY2(!seen.contains(folded), qPrintable(path + " and " + seen.value(folded)));
             seen.insert(folded, path);
@@ -176,9 +95,9 @@ void TstPictures::noTwoNamesAreOneWhereCaseDoesNotCount()
 void TstPictures::statesAreToldApart_data()
 {
     QTest::addColumn<QStringList>("paths");
-    for (const Entry& entry : readList()) {
-        if (entry.states != "-")
-            QTest::newRow(qPrintable(entry.name)) << entry.paths();
+    for (const ListedPicture& picture : listedPictures()) {
+        if (picture.states != "-")
+            QTest::newRow(qPrintable(picture.name)) << picture.paths();
     }
     QTest::newRow("radio button") << QStringList({":/nwu/rchecked", ":/nwu/runchecked"});
     QTest::newRow("check box") << QStringList(
@@ -190,8 +109,9 @@ void TstPictures::statesAreToldApart()
     QFETCH(QStringList, paths);
     for (int i = 0; i < paths.size(); ++i) {
         for (int j = i + 1; j < paths.size(); ++j) {
-            QCOMPARE(load(paths.at(i)).size(), load(paths.at(j)).size());
-            const double changed = changedPercent(load(paths.at(i)), load(paths.at(j)));
+            QCOMPARE(loadPicture(paths.at(i)).size(), loadPicture(paths.at(j)).size());
+            const double changed =
+                changedPercent(loadPicture(paths.at(i)), loadPicture(paths.at(j)));
             QVERIFY2(changed > 2, qPrintable(QString("%1 and %2 differ in %3 % of their pixels")
                                                  .arg(paths.at(i), paths.at(j))
                                                  .arg(changed)));
@@ -202,9 +122,9 @@ void TstPictures::statesAreToldApart()
 void TstPictures::roundMarksAndGlyphsHaveNoGround_data()
 {
     QTest::addColumn<QString>("path");
-    for (const Entry& entry : readList()) {
-        if (QStringList({"radio", "checkedradio", "lens"}).contains(entry.kind))
-            QTest::newRow(qPrintable(entry.name)) << ":/nwu/" + entry.name;
+    for (const ListedPicture& picture : listedPictures()) {
+        if (QStringList({"radio", "checkedradio", "lens"}).contains(picture.kind))
+            QTest::newRow(qPrintable(picture.name)) << ":/nwu/" + picture.name;
     }
 }
 
@@ -212,7 +132,7 @@ void TstPictures::roundMarksAndGlyphsHaveNoGround()
 {
     QFETCH(QString, path);
     for (const QString& suffix : QStringList({"", "@2x"})) {
-        const QImage image = load(path + suffix);
+        const QImage image = loadPicture(path + suffix);
         // What is drawn keeps clear of the edges, which would cut it.
         const QRect room = image.rect().adjusted(1, 1, -1, -1);
         int drawn = 0;
@@ -229,9 +149,9 @@ void TstPictures::roundMarksAndGlyphsHaveNoGround()
 void TstPictures::windowsHaveTransparentCornersAndAnOpaqueMiddle_data()
 {
     QTest::addColumn<QString>("path");
-    for (const Entry& entry : readList()) {
-        if (QStringList({"main", "dialog", "question", "notice", "about"}).contains(entry.kind))
-            QTest::newRow(qPrintable(entry.name)) << ":/nwu/" + entry.name;
+    for (const ListedPicture& picture : listedPictures()) {
+        if (QStringList({"main", "dialog", "question", "notice", "about"}).contains(picture.kind))
+            QTest::newRow(qPrintable(picture.name)) << ":/nwu/" + picture.name;
     }
 }
 
@@ -239,7 +159,7 @@ void TstPictures::windowsHaveTransparentCornersAndAnOpaqueMiddle()
 {
     QFETCH(QString, path);
     for (const QString& suffix : QStringList({"", "@2x"})) {
-        const QImage image = load(path + suffix);
+        const QImage image = loadPicture(path + suffix);
         const QRect area = image.rect();
         for (const QPoint& corner :
              {area.topLeft(), area.topRight(), area.bottomLeft(), area.bottomRight()})
@@ -255,13 +175,13 @@ void TstPictures::dialogsLeaveTheirTextsAndButtonsAPlainGround_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QRect>("area");
-    for (const Entry& entry : readList()) {
-        const QString path = ":/nwu/" + entry.name;
-        const QByteArray name = entry.name.toUtf8();
-        if (entry.kind == "dialog" || entry.kind == "question") {
+    for (const ListedPicture& picture : listedPictures()) {
+        const QString path = ":/nwu/" + picture.name;
+        const QByteArray name = picture.name.toUtf8();
+        if (picture.kind == "dialog" || picture.kind == "question") {
             QTest::newRow(name + " text") << path << QRect(40, 50, 340, 80);
             QTest::newRow(name + " buttons") << path << QRect(80, 140, 280, 28);
-        } else if (entry.kind == "notice") {
+        } else if (picture.kind == "notice") {
             QTest::newRow(name + " text") << path << QRect(60, 40, 309, 81);
             QTest::newRow(name + " buttons") << path << QRect(80, 133, 240, 28);
         }
@@ -272,7 +192,7 @@ void TstPictures::dialogsLeaveTheirTextsAndButtonsAPlainGround()
 {
     QFETCH(QString, path);
     QFETCH(QRect, area);
-    const QImage image = load(path);
+    const QImage image = loadPicture(path);
     for (int y = area.top(); y <= area.bottom(); ++y) {
         for (int x = area.left(); x <= area.right(); ++x)
             QCOMPARE(image.pixelColor(x, y), QColor(Qt::white));
@@ -282,82 +202,20 @@ void TstPictures::dialogsLeaveTheirTextsAndButtonsAPlainGround()
 void TstPictures::pagesHideWhatLiesUnderThem_data()
 {
     QTest::addColumn<QString>("path");
-    for (const Entry& entry : readList()) {
-        if (entry.kind == "page")
-            QTest::newRow(qPrintable(entry.name)) << ":/nwu/" + entry.name;
+    for (const ListedPicture& picture : listedPictures()) {
+        if (picture.kind == "page")
+            QTest::newRow(qPrintable(picture.name)) << ":/nwu/" + picture.name;
     }
 }
 
 void TstPictures::pagesHideWhatLiesUnderThem()
 {
     QFETCH(QString, path);
-    const QImage image = load(path);
+    const QImage image = loadPicture(path);
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x)
             QCOMPARE(qAlpha(image.pixel(x, y)), 255);
     }
-}
-
-void TstPictures::whiteCaptionsCanBeRead_data()
-{
-    QTest::addColumn<QString>("path");
-    for (const Entry& entry : readList()) {
-        const QStringList paths = entry.paths();
-        if (QStringList({"primary", "quiet", "slate"}).contains(entry.kind)) {
-            for (const QString& path : paths)
-                QTest::newRow(qPrintable(path)) << path;
-        } else if (entry.kind == "tile") {
-            const QString pressed = paths.at(entry.states.indexOf('p'));
-            QTest::newRow(qPrintable(pressed)) << pressed;
-        }
-    }
-}
-
-void TstPictures::whiteCaptionsCanBeRead()
-{
-    QFETCH(QString, path);
-    const QImage image = load(path);
-    const QRect area = captionArea(image.size());
-    for (int y = area.top(); y <= area.bottom(); ++y) {
-        for (int x = area.left(); x <= area.right(); ++x) {
-            const QColor ground = image.pixelColor(x, y);
-            const double ofWhite = contrast(Qt::white, ground);
-            QVERIFY2(ground.alpha() == 255 && ofWhite >= readable,
-                     qPrintable(QString("%1: %2").arg(ground.name()).arg(ofWhite)));
-        }
-    }
-}
-
-void TstPictures::symbolsInPlaceOfCaptionsCanBeSeen_data()
-{
-    QTest::addColumn<QString>("path");
-    for (const Entry& entry : readList()) {
-        if (entry.kind == "iconbutton") {
-            for (const QString& path : entry.paths())
-                QTest::newRow(qPrintable(path)) << path;
-        }
-    }
-}
-
-void TstPictures::symbolsInPlaceOfCaptionsCanBeSeen()
-{
-    QFETCH(QString, path);
-    const QImage image = load(path);
-    const QColor ground = image.pixelColor(4, image.height() / 2);
-    QCOMPARE(ground.alpha(), 255);
-    // The symbol has room around it within the outline.
-    const QRect inside = image.rect().adjusted(3, 3, -3, -3);
-    const QRect room = inside.adjusted(2, 2, -2, -2);
-    int seen = 0;
-    for (int y = inside.top(); y <= inside.bottom(); ++y) {
-        for (int x = inside.left(); x <= inside.right(); ++x) {
-            QVERIFY(room.contains(x, y) || image.pixelColor(x, y) == ground);
-            seen += contrast(image.pixelColor(x, y), ground) >= 3 ? 1 : 0;
-        }
-    }
-    // More than a thin line, less than a ground.
-    const double share = 100.0 * seen / (image.width() * image.height());
-    QVERIFY2(share > 8 && share < 50, qPrintable(QString::number(share)));
 }
 
 KORVEX_TEST_MAIN(TstPictures)
