@@ -11,6 +11,7 @@
 #include <QProcess>
 #include <QProcessEnvironment>
 
+#include <csignal>
 #include <sys/stat.h>
 
 // The tools as the program finds them: by name, in a folder in front of PATH.
@@ -27,8 +28,14 @@ private slots:
     void toolsOfOursRunTheSystems();
     void commandTextOfThePagesIsUnderstood();
     void othersCannotWriteWhatIsMade();
+    void endedCopyLeavesNothing_data();
+    void endedCopyLeavesNothing();
+    void copyThatNobodyHearsLeavesNothing();
 
 private:
+    // Of a disc in the folder to an image that exists there; arguments for "hdiutil".
+    static QStringList copyOfSomeSeconds(const QTemporaryDir& folder);
+    static void theOldImageAloneIsLeft(const QTemporaryDir& folder);
     // Runs a tool by its name; both channels are in output, the exit code is returned.
     int run(const QString& name, const QStringList& arguments);
 
@@ -128,6 +135,57 @@ void TstPlatformTool::othersCannotWriteWhatIsMade()
     QVERIFY(output.endsWith("DRStatusPercentCompleteKey: 1\n"));
     QVERIFY(!QFileInfo(image).permission(QFile::WriteOther));
     QVERIFY(!QFileInfo(image).permission(QFile::WriteGroup));
+}
+
+QStringList TstPlatformTool::copyOfSomeSeconds(const QTemporaryDir& folder)
+{
+    writeFile(folder.filePath("out/x.iso"), "old");
+    writeFile(folder.filePath("disc/large"), "x");
+    // Sparse.
+    QFile::resize(folder.filePath("disc/large"), 3LL << 30);
+    return imageOfDiscArguments(folder.filePath("out/x.iso"), folder.filePath("disc"));
+}
+
+void TstPlatformTool::theOldImageAloneIsLeft(const QTemporaryDir& folder)
+{
+    QCOMPARE(entriesOf(folder.filePath("out")), QStringList("x.iso"));
+    QCOMPARE(readFile(folder.filePath("out/x.iso")), QByteArray("old"));
+}
+
+void TstPlatformTool::endedCopyLeavesNothing_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("stopped") << SIGTERM;
+    QTest::newRow("interrupted") << SIGINT;
+    QTest::newRow("terminal closed") << SIGHUP;
+}
+
+void TstPlatformTool::endedCopyLeavesNothing()
+{
+    QFETCH(int, signal);
+    const QTemporaryDir folder;
+    // Whoever runs the tests in the background may ignore it, which the tool would inherit.
+    std::signal(signal, SIG_DFL);
+    QProcess process;
+    process.start(QString(KORVEX_PLATFORM_TOOLS) + "/hdiutil", copyOfSomeSeconds(folder));
+    QTRY_VERIFY(QFile::exists(folder.filePath("out/x.iso.unfinished")));
+    QCOMPARE(::kill(pid_t(process.processId()), signal), 0);
+    QVERIFY(process.waitForFinished(-1));
+    QCOMPARE(process.exitStatus(), QProcess::CrashExit);
+    QCOMPARE(process.exitCode(), signal);
+    theOldImageAloneIsLeft(folder);
+}
+
+void TstPlatformTool::copyThatNobodyHearsLeavesNothing()
+{
+    const QTemporaryDir folder;
+    const QString script = "set -o pipefail; '" KORVEX_PLATFORM_TOOLS "/hdiutil' \"$@\" | head -1";
+    QProcess shell;
+    shell.start("bash", QStringList{"-c", script, "bash"} + copyOfSomeSeconds(folder));
+    QVERIFY(shell.waitForFinished(-1));
+    QCOMPARE(shell.readAllStandardOutput(), QByteArray("Creating hybrid image...\n"));
+    QCOMPARE(shell.exitCode(), 128 + SIGPIPE);
+    theOldImageAloneIsLeft(folder);
 }
 
 KORVEX_TEST_MAIN(TstPlatformTool)

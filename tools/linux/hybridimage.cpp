@@ -7,17 +7,13 @@
 #include "lsblk.h"
 #include "mkisofsprogress.h"
 #include "printing.h"
+#include "unfinishedfile.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
-#include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
-
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
 
 namespace
 {
@@ -36,25 +32,6 @@ QString mkisofs()
     const QString ours = QStandardPaths::findExecutable(
         "mkisofs", {QCoreApplication::applicationDirPath() + "/../cdrtools"});
     return ours.isEmpty() ? QString("mkisofs") : ours;
-}
-
-// Where the image is written until it is complete: nothing that is there already.
-QString unfinishedPath(const QString& image)
-{
-    const QString first = image + ".unfinished";
-    QString path = first;
-    for (int number = 2; QFileInfo::exists(path) || QFileInfo(path).isSymLink(); ++number)
-        path = first + QString::number(number);
-    return path;
-}
-
-// Replaces the image by the finished one; empty on success.
-QString replaceBy(const QString& finished, const QString& image)
-{
-    if (std::rename(QFile::encodeName(finished).constData(),
-                    QFile::encodeName(image).constData()) == 0)
-        return {};
-    return std::strerror(errno);
 }
 
 } // namespace
@@ -107,21 +84,19 @@ int makeHybridImage(const QString& image, const QString& folder, ProgressTeller 
     if (target.startsWith(QDir::cleanPath(source) + '/'))
         return fail("The image lies inside of what it is made of");
     say("Creating hybrid image...");
-    const QString unfinished = unfinishedPath(target);
+    UnfinishedFile unfinished(target);
     QString error =
         followProgram(mkisofs(),
-                      hybridArguments(unfinished, source, volumeLabelOf(source, mountTable()),
-                                      holdsLargeFile(source)),
+                      hybridArguments(unfinished.path(), source,
+                                      volumeLabelOf(source, mountTable()), holdsLargeFile(source)),
                       [&progress](const QString& line) {
                           if (const auto hundredths = readMkisofsProgress(line))
                               progress.reach(*hundredths / hundredthsOfAll);
                       });
     if (error.isEmpty())
-        error = replaceBy(unfinished, target);
-    if (!error.isEmpty()) {
-        QFile::remove(unfinished);
+        error = unfinished.finish();
+    if (!error.isEmpty())
         return fail(error);
-    }
     ProgressTeller::finish();
     return 0;
 }
