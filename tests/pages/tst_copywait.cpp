@@ -4,8 +4,8 @@
 #include "cfilecopy.h"
 #include "copywait.h"
 #include "cprogressdialog.h"
+#include "foldertest.h"
 #include "heldfolder.h"
-#include "testcase.h"
 #include "testfiles.h"
 #include "testmain.h"
 #include "trigger.h"
@@ -14,12 +14,11 @@
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QProgressBar>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <ctime>
 
-class TstCopyWait : public TestCase
+class TstCopyWait : public FolderTest
 {
     Q_OBJECT
 
@@ -48,7 +47,6 @@ private:
     // Queues a copy that holds, and waits until it does.
     void hold(qint64 bytes);
 
-    std::unique_ptr<QTemporaryDir> folder;
     std::unique_ptr<CProgressDialog> progress;
     std::unique_ptr<HeldFolder> held;
     std::unique_ptr<CFileCopy> queue;
@@ -56,8 +54,7 @@ private:
 
 void TstCopyWait::init()
 {
-    TestCase::init();
-    folder = std::make_unique<QTemporaryDir>();
+    FolderTest::init();
     queue = std::make_unique<CFileCopy>(nullptr);
     progress = std::make_unique<CProgressDialog>(nullptr);
     progress->SetText("before");
@@ -70,8 +67,7 @@ void TstCopyWait::cleanup()
     held.reset();
     queue.reset();
     progress.reset();
-    folder.reset();
-    TestCase::cleanup();
+    FolderTest::cleanup();
 }
 
 void TstCopyWait::hold(qint64 bytes)

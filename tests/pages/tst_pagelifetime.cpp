@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: MIT
 
 #include "cfilecopy.h"
+#include "foldertest.h"
 #include "heldfolder.h"
 #include "pagelifetime.h"
-#include "testcase.h"
 #include "testfiles.h"
 #include "testmain.h"
 
 #include <QPointer>
-#include <QTemporaryDir>
 #include <QWidget>
 
 namespace
@@ -24,7 +23,7 @@ struct Page : public QWidget
 
 } // namespace
 
-class TstPageLifetime : public TestCase
+class TstPageLifetime : public FolderTest
 {
     Q_OBJECT
 
@@ -54,15 +53,13 @@ private:
         return page;
     }
 
-    std::unique_ptr<QTemporaryDir> folder;
     std::unique_ptr<HeldFolder> held;
     QPointer<Page> page;
 };
 
 void TstPageLifetime::init()
 {
-    TestCase::init();
-    folder = std::make_unique<QTemporaryDir>();
+    FolderTest::init();
     page = new Page;
 }
 
@@ -70,8 +67,7 @@ void TstPageLifetime::cleanup()
 {
     held.reset();
     delete page;
-    folder.reset();
-    TestCase::cleanup();
+    FolderTest::cleanup();
 }
 
 void TstPageLifetime::hold()

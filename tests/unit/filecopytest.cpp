@@ -5,29 +5,12 @@
 
 #include "util.h"
 
-#include <QDir>
-#include <QTemporaryDir>
 #include <QtTest>
-
-FileCopyTest::FileCopyTest() = default;
-FileCopyTest::~FileCopyTest() = default;
 
 void FileCopyTest::init()
 {
-    TestCase::init();
-    folder = std::make_unique<QTemporaryDir>();
+    FolderTest::init();
     Util::copyedsize = 0;
-}
-
-void FileCopyTest::cleanup()
-{
-    folder.reset();
-    TestCase::cleanup();
-}
-
-QString FileCopyTest::path(const QString& name) const
-{
-    return QDir(folder->path()).filePath(name);
 }
 
 bool FileCopyTest::hold(CFileCopy& queue, const HeldCopy& copy)

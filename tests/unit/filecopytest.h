@@ -4,27 +4,16 @@
 #pragma once
 
 #include "cfilecopy.h"
+#include "foldertest.h"
 #include "heldcopy.h"
-#include "testcase.h"
 #include "testfiles.h"
 
-#include <memory>
-
-class QTemporaryDir;
-
-// What the test classes of the copy queue share: a folder of their own for each test function and
-// the ways to queue and to wait.
-class FileCopyTest : public TestCase
+// What the test classes of the copy queue share: the ways to queue and to wait.
+class FileCopyTest : public FolderTest
 {
     Q_OBJECT
 
-public:
-    FileCopyTest();
-    ~FileCopyTest() override;
-
 protected:
-    // In the folder; an absolute path stays as it is.
-    QString path(const QString& name) const;
     // Queues it and waits until it is in progress, with nothing else before it.
     static bool hold(CFileCopy& queue, const HeldCopy& copy);
     // Whether everything that is queued has been dealt with in time.
@@ -34,8 +23,4 @@ protected:
 
 protected slots:
     void init();
-    void cleanup();
-
-private:
-    std::unique_ptr<QTemporaryDir> folder;
 };

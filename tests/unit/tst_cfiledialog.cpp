@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "cfiledialog.h"
+#include "foldertest.h"
 #include "modaldriver.h"
-#include "testcase.h"
 #include "testmain.h"
 #include "usermouse.h"
 
@@ -15,7 +15,7 @@
 
 #include <memory>
 
-class TstCFileDialog : public TestCase
+class TstCFileDialog : public FolderTest
 {
     Q_OBJECT
 
@@ -48,15 +48,13 @@ private:
         return names;
     }
 
-    std::unique_ptr<QTemporaryDir> folder;
     std::unique_ptr<CFileDialog> dialog;
     QListView* list = nullptr;
 };
 
 void TstCFileDialog::init()
 {
-    TestCase::init();
-    folder = std::make_unique<QTemporaryDir>();
+    FolderTest::init();
     const QDir dir(folder->path());
     for (const char* name : {"one", "two words", "inner"})
         QVERIFY(dir.mkdir(name));
@@ -69,8 +67,7 @@ void TstCFileDialog::init()
 void TstCFileDialog::cleanup()
 {
     dialog.reset();
-    folder.reset();
-    TestCase::cleanup();
+    FolderTest::cleanup();
 }
 
 void TstCFileDialog::open(bool withFiles)

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "drivescenario.h"
-#include "testcase.h"
+#include "foldertest.h"
 #include "testfiles.h"
 #include "testmain.h"
 #include "toolresult.h"
@@ -11,7 +11,7 @@
 #include <memory>
 
 // The way through a scenario's sudo to the boot tool.
-class TstDriveScenarioSudo : public TestCase
+class TstDriveScenarioSudo : public FolderTest
 {
     Q_OBJECT
 
@@ -34,21 +34,18 @@ private:
     QString bootTool() const { return Util::GetCurrentExePath() + "/mkbootable"; }
 
     std::unique_ptr<DriveScenario> scenario;
-    std::unique_ptr<QTemporaryDir> folder;
 };
 
 void TstDriveScenarioSudo::init()
 {
-    TestCase::init();
-    folder = std::make_unique<QTemporaryDir>();
+    FolderTest::init();
     scenario = std::make_unique<DriveScenario>();
 }
 
 void TstDriveScenarioSudo::cleanup()
 {
     scenario.reset();
-    folder.reset();
-    TestCase::cleanup();
+    FolderTest::cleanup();
 }
 
 QString TstDriveScenarioSudo::askpassThat(const QByteArray& body)

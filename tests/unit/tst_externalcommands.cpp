@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "commandtext.h"
-#include "testcase.h"
+#include "foldertest.h"
 #include "testfiles.h"
 #include "testmain.h"
 #include "util.h"
@@ -10,14 +10,11 @@
 #include <csignal>
 
 // What short commands are given and what comes back. Scripts stand in for the tools.
-class TstExternalCommands : public TestCase
+class TstExternalCommands : public FolderTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-
     void outputIsReturned_data();
     void outputIsReturned();
     void outputBytesEndBeforeTheFirstZero();
@@ -50,7 +47,6 @@ private:
     // Path of an executable script with this body.
     QString script(const QByteArray& body);
 
-    std::unique_ptr<QTemporaryDir> folder;
     int scripts = 0;
 };
 
@@ -60,18 +56,6 @@ namespace
 const QString oddPath = QString::fromUtf8("-a  b 'c' $HOME;*? é e\u0301 光/%1 tool");
 
 } // namespace
-
-void TstExternalCommands::init()
-{
-    TestCase::init();
-    folder = std::make_unique<QTemporaryDir>();
-}
-
-void TstExternalCommands::cleanup()
-{
-    folder.reset();
-    TestCase::cleanup();
-}
 
 QString TstExternalCommands::script(const QByteArray& body)
 {

@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Korvex ISO Editor developers
 // SPDX-License-Identifier: MIT
 
-#include "testcase.h"
+#include "foldertest.h"
 #include "testfiles.h"
 #include "testmain.h"
 #include "util.h"
@@ -10,7 +10,7 @@
 #include <QTimer>
 
 // The caller's events go on while a short command runs. Scripts stand in for the tools.
-class TstExternalCommandsEvents : public TestCase
+class TstExternalCommandsEvents : public FolderTest
 {
     Q_OBJECT
 
@@ -21,7 +21,6 @@ public slots:
 
 private slots:
     void init();
-    void cleanup();
 
     void eventsGoOnMeanwhile();
     void callWithinACallWorks();
@@ -33,7 +32,6 @@ private:
     // Path of an executable script with this body.
     QString script(const QByteArray& body);
 
-    std::unique_ptr<QTemporaryDir> folder;
     int scripts = 0;
     int ticks = 0;
     QString inner;
@@ -68,17 +66,10 @@ private:
 
 void TstExternalCommandsEvents::init()
 {
-    TestCase::init();
-    folder = std::make_unique<QTemporaryDir>();
+    FolderTest::init();
     ticks = 0;
     inner.clear();
     outer.clear();
-}
-
-void TstExternalCommandsEvents::cleanup()
-{
-    folder.reset();
-    TestCase::cleanup();
 }
 
 QString TstExternalCommandsEvents::script(const QByteArray& body)

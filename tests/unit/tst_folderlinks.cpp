@@ -2,20 +2,19 @@
 // SPDX-License-Identifier: MIT
 
 #include "folderlinks.h"
-#include "testcase.h"
+#include "foldertest.h"
 #include "testfiles.h"
 #include "testmain.h"
 
 #include <QFileInfo>
 
 // One tree for all rows: a/b/c and other/deep, besides what the row lays into it.
-class TstFolderLinks : public TestCase
+class TstFolderLinks : public FolderTest
 {
     Q_OBJECT
 
 private slots:
     void init();
-    void cleanup();
 
     void linkLeadsBack_data();
     void linkLeadsBack();
@@ -25,24 +24,14 @@ private slots:
     void whatIsNoLinkNeverLeadsBack();
 
 private:
-    QString path(const QString& name) const { return folder->filePath(name); }
     bool judge(const QString& name) const { return leadsBack(QFileInfo(path(name))); }
-
-    std::unique_ptr<QTemporaryDir> folder;
 };
 
 void TstFolderLinks::init()
 {
-    TestCase::init();
-    folder = std::make_unique<QTemporaryDir>();
+    FolderTest::init();
     writeFile(path("a/b/c/file"), "1");
     writeFile(path("other/deep/file"), "2");
-}
-
-void TstFolderLinks::cleanup()
-{
-    folder.reset();
-    TestCase::cleanup();
 }
 
 void TstFolderLinks::linkLeadsBack_data()

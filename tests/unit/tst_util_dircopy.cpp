@@ -1,21 +1,18 @@
 // Copyright (c) 2026 The Korvex ISO Editor developers
 // SPDX-License-Identifier: MIT
 
-#include "testcase.h"
+#include "foldertest.h"
 #include "testfiles.h"
 #include "testmain.h"
 #include "util.h"
 
 // Copying folders. A name that the destination already holds ends the copy and costs both files;
 // that is deliberate and pinned here.
-class TstUtilDirCopy : public TestCase
+class TstUtilDirCopy : public FolderTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-
     void contentsAreCopiedAtEveryDepth();
     void emptyFoldersAreCopied();
     void contentsMergeIntoAnExistingFolder();
@@ -34,24 +31,7 @@ private slots:
     void folderIsCopiedAsSubfolder();
     void folderItselfMergesWithItsNamesake();
     void folderItselfIntoAFileIsFalse();
-
-private:
-    QString path(const char* name) const { return folder->filePath(QString::fromUtf8(name)); }
-
-    std::unique_ptr<QTemporaryDir> folder;
 };
-
-void TstUtilDirCopy::init()
-{
-    TestCase::init();
-    folder = std::make_unique<QTemporaryDir>();
-}
-
-void TstUtilDirCopy::cleanup()
-{
-    folder.reset();
-    TestCase::cleanup();
-}
 
 void TstUtilDirCopy::contentsAreCopiedAtEveryDepth()
 {

@@ -1,44 +1,24 @@
 // Copyright (c) 2026 The Korvex ISO Editor developers
 // SPDX-License-Identifier: MIT
 
-#include "testcase.h"
+#include "foldertest.h"
 #include "testfiles.h"
 #include "testmain.h"
 #include "util.h"
 
 // Symbolic links within a folder that is copied.
-class TstUtilDirCopyLinks : public TestCase
+class TstUtilDirCopyLinks : public FolderTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-
     void linkToAFolderIsCopiedAsAFolder();
     void linkThatLeadsBackBecomesAnEmptyFolder_data();
     void linkThatLeadsBackBecomesAnEmptyFolder();
     void linkThatLeadsBackFromElsewhereBecomesAnEmptyFolder();
     void linkThatLeadsBackClashingWithAFileEndsWithFalse();
     void brokenLinkIsLeftOut();
-
-private:
-    QString path(const char* name) const { return folder->filePath(QString::fromUtf8(name)); }
-
-    std::unique_ptr<QTemporaryDir> folder;
 };
-
-void TstUtilDirCopyLinks::init()
-{
-    TestCase::init();
-    folder = std::make_unique<QTemporaryDir>();
-}
-
-void TstUtilDirCopyLinks::cleanup()
-{
-    folder.reset();
-    TestCase::cleanup();
-}
 
 void TstUtilDirCopyLinks::linkToAFolderIsCopiedAsAFolder()
 {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "commandtext.h"
-#include "testcase.h"
+#include "foldertest.h"
 #include "testfiles.h"
 #include "testmain.h"
 #include "util.h"
@@ -10,7 +10,7 @@
 #include <csignal>
 
 // Asking the disk tool: a script stands in for it, or nothing does.
-class TstUtilDisk : public TestCase
+class TstUtilDisk : public FolderTest
 {
     Q_OBJECT
 
@@ -33,13 +33,11 @@ private:
 
     QByteArray systemPath;
     QString currentFolder;
-    std::unique_ptr<QTemporaryDir> folder;
 };
 
 void TstUtilDisk::init()
 {
-    TestCase::init();
-    folder = std::make_unique<QTemporaryDir>();
+    FolderTest::init();
     currentFolder = QDir::currentPath();
     systemPath = qgetenv("PATH");
     qputenv("PATH", QFile::encodeName(folder->path()) + ':' + systemPath);
@@ -49,8 +47,7 @@ void TstUtilDisk::cleanup()
 {
     qputenv("PATH", systemPath);
     QDir::setCurrent(currentFolder);
-    folder.reset();
-    TestCase::cleanup();
+    FolderTest::cleanup();
 }
 
 void TstUtilDisk::missingToolGivesZeroAndNothing()

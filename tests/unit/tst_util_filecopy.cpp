@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Korvex ISO Editor developers
 // SPDX-License-Identifier: MIT
 
-#include "testcase.h"
+#include "foldertest.h"
 #include "testfiles.h"
 #include "testmain.h"
 #include "util.h"
@@ -10,13 +10,12 @@
 #include <sys/resource.h>
 
 // Copying one file. Broken-off copies and taken names are pinned as they are defined.
-class TstUtilFileCopy : public TestCase
+class TstUtilFileCopy : public FolderTest
 {
     Q_OBJECT
 
 private slots:
     void init();
-    void cleanup();
 
     void contentIsCopied_data();
     void contentIsCopied();
@@ -38,24 +37,12 @@ private slots:
     void linkIsCopiedAsTheFileItNames();
     void linkAtTheDestinationIsReplacedNotFollowed();
     void brokenLinkIsNoSource();
-
-private:
-    QString path(const char* name) const { return folder->filePath(QString::fromUtf8(name)); }
-
-    std::unique_ptr<QTemporaryDir> folder;
 };
 
 void TstUtilFileCopy::init()
 {
-    TestCase::init();
-    folder = std::make_unique<QTemporaryDir>();
+    FolderTest::init();
     Util::copyedsize = 0;
-}
-
-void TstUtilFileCopy::cleanup()
-{
-    folder.reset();
-    TestCase::cleanup();
 }
 
 void TstUtilFileCopy::contentIsCopied_data()

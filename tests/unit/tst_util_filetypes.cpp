@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Korvex ISO Editor developers
 // SPDX-License-Identifier: MIT
 
-#include "testcase.h"
+#include "foldertest.h"
 #include "testfiles.h"
 #include "testmain.h"
 #include "util.h"
@@ -10,7 +10,7 @@
 
 // Icons and type texts by extension. They are kept for the whole run, so each test function asks
 // for extensions of its own.
-class TstUtilFileTypes : public TestCase
+class TstUtilFileTypes : public FolderTest
 {
     Q_OBJECT
 
@@ -36,13 +36,11 @@ private:
     void loseTemporaryFolder() { qputenv("TMPDIR", "/dev/null"); }
 
     QByteArray systemFolder;
-    std::unique_ptr<QTemporaryDir> folder;
 };
 
 void TstUtilFileTypes::init()
 {
-    TestCase::init();
-    folder = std::make_unique<QTemporaryDir>();
+    FolderTest::init();
     systemFolder = qgetenv("TMPDIR");
     qputenv("TMPDIR", QFile::encodeName(folder->path()));
 }
@@ -53,8 +51,7 @@ void TstUtilFileTypes::cleanup()
         qunsetenv("TMPDIR");
     else
         qputenv("TMPDIR", systemFolder);
-    folder.reset();
-    TestCase::cleanup();
+    FolderTest::cleanup();
 }
 
 void TstUtilFileTypes::typeIsWhatTheDesktopSaysOfSuchAFile_data()

@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Korvex ISO Editor developers
 // SPDX-License-Identifier: MIT
 
-#include "testcase.h"
+#include "foldertest.h"
 #include "testfiles.h"
 #include "testmain.h"
 #include "util.h"
@@ -9,14 +9,11 @@
 #include <cerrno>
 
 // Deleting, measuring and finding files.
-class TstUtilRemove : public TestCase
+class TstUtilRemove : public FolderTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-
     void fileIsDeleted_data();
     void fileIsDeleted();
     void emptyFolderIsDeletedAsAFile();
@@ -38,24 +35,7 @@ private slots:
     void sizeOfNothingIsZero();
     void sizeFollowsLinks();
     void sizeBeyond32Bits();
-
-private:
-    QString path(const char* name) const { return folder->filePath(QString::fromUtf8(name)); }
-
-    std::unique_ptr<QTemporaryDir> folder;
 };
-
-void TstUtilRemove::init()
-{
-    TestCase::init();
-    folder = std::make_unique<QTemporaryDir>();
-}
-
-void TstUtilRemove::cleanup()
-{
-    folder.reset();
-    TestCase::cleanup();
-}
 
 void TstUtilRemove::fileIsDeleted_data()
 {
