@@ -10,6 +10,7 @@
 #include "hybridimage.h"
 #include "imagenote.h"
 #include "lsblk.h"
+#include "outlivingwork.h"
 #include "printing.h"
 
 #include <QFileInfo>
@@ -24,6 +25,21 @@ int fail(const QString& verb, const QString& reason)
     return complain("hdiutil: " + verb + " failed - " + reason);
 }
 
+// The program kills a tool that takes too long, and does not know then what there is to unmount.
+int mountForCaller(const QString& image, const std::function<bool()>& isAwaited,
+                   VolumeService& volumes)
+{
+    const MountResult mounted = volumes.mountImage(image);
+    if (!mounted.error.isEmpty())
+        return fail("mount", mounted.error);
+    if (!isAwaited()) {
+        volumes.unmountImage(mounted.path, true);
+        return 1;
+    }
+    say(imageLine(mounted));
+    return 0;
+}
+
 int mountImage(const QString& image, VolumeService& volumes)
 {
     const QFileInfo file(image);
@@ -31,11 +47,9 @@ int mountImage(const QString& image, VolumeService& volumes)
         return fail("mount", "No such file or directory");
     // First, as an image that cannot be mounted is written to a disk all the same.
     leaveImageNote(volumes.sessionFolder(), file.canonicalFilePath());
-    const MountResult mounted = volumes.mountImage(file.absoluteFilePath());
-    if (!mounted.error.isEmpty())
-        return fail("mount", mounted.error);
-    say(imageLine(mounted));
-    return 0;
+    return runOutliving([&](const std::function<bool()>& isAwaited) {
+        return mountForCaller(file.absoluteFilePath(), isAwaited, volumes);
+    });
 }
 
 int unmountImage(const QString& path, bool force, VolumeService& volumes)

@@ -1,0 +1,106 @@
+// Copyright (c) 2026 The Korvex ISO Editor developers
+// SPDX-License-Identifier: MIT
+
+#include "foldertest.h"
+#include "hdiutil.h"
+#include "outlivingwork.h"
+#include "printing.h"
+#include "rootvolumes.h"
+#include "standins.h"
+#include "testfiles.h"
+#include "testmain.h"
+
+#include <QDir>
+#include <QThread>
+
+#include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
+
+// Work that goes on where the tool that does it is killed.
+class TstOutlivingWork : public FolderTest
+{
+    Q_OBJECT
+
+private slots:
+    void exitCodeIsReturned();
+    void crashIsAFailure();
+    void everythingIsSaidOnce();
+    void workIsAwaitedUntilTheToolIsKilled();
+    void imageMountedForNobodyIsUnmounted();
+
+private:
+    // Runs a tool in a process of its own and kills it as soon as the file "begun" is there; makes
+    // the file "killed" then.
+    void killWhenBegun(const std::function<int()>& tool) const;
+};
+
+void TstOutlivingWork::killWhenBegun(const std::function<int()>& tool) const
+{
+    const pid_t process = ::fork();
+    if (process == 0)
+        ::_exit(tool());
+    QVERIFY(process > 0);
+    QTRY_VERIFY(QFile::exists(path("begun")));
+    QCOMPARE(::kill(process, SIGKILL), 0);
+    QCOMPARE(::waitpid(process, nullptr, 0), process);
+    writeFile(path("killed"), "");
+}
+
+void TstOutlivingWork::exitCodeIsReturned()
+{
+    QCOMPARE(runOutliving([](const auto& isAwaited) { return isAwaited() ? 23 : 0; }), 23);
+}
+
+void TstOutlivingWork::crashIsAFailure()
+{
+    QCOMPARE(runOutliving([](const auto&) { return ::raise(SIGKILL); }), 1);
+}
+
+void TstOutlivingWork::everythingIsSaidOnce()
+{
+    const QStringList lines = spokenLines([] {
+        std::fputs("before\n", stdout);
+        runOutliving([](const auto&) {
+            std::fputs("within\n", stdout);
+            return 0;
+        });
+        say("after");
+    });
+    QCOMPARE(lines, QStringList({"before", "within", "after"}));
+}
+
+void TstOutlivingWork::workIsAwaitedUntilTheToolIsKilled()
+{
+    killWhenBegun([this] {
+        return runOutliving([this](const auto& isAwaited) {
+            const QByteArray before = isAwaited() ? "awaited" : "abandoned";
+            writeFile(path("begun"), before);
+            while (!QFile::exists(path("killed")))
+                QThread::msleep(10);
+            writeFile(path("after"), isAwaited() ? "awaited" : "abandoned");
+            return 0;
+        });
+    });
+    QTRY_COMPARE(readFile(path("after")), QByteArray("abandoned"));
+    QCOMPARE(readFile(path("begun")), QByteArray("awaited"));
+}
+
+void TstOutlivingWork::imageMountedForNobodyIsUnmounted()
+{
+    const StandIns tools;
+    tools.add("mount", QString("touch '%1'; until [ -e '%2' ]; do sleep 0.01; done")
+                           .arg(path("begun"), path("killed"))
+                           .toUtf8());
+    tools.add("umount");
+    writeFile(path("x.iso"), "x");
+    RootVolumes volumes(path("media"), path("images"));
+    killWhenBegun([&] { return hdiutilTool({"mount", path("x.iso")}, volumes); });
+    QTRY_COMPARE(tools.calls().size(), 2);
+    QTRY_COMPARE(QDir(path("images")).entryList({"image-*"}), QStringList());
+    const QString mountPoint = tools.calls().first().section('|', -1);
+    QCOMPARE(tools.calls().last(), "umount|--lazy|--|" + mountPoint);
+}
+
+KORVEX_TEST_MAIN(TstOutlivingWork)
+#include "tst_outlivingwork.moc"
