@@ -6,7 +6,7 @@
 #include "testfiles.h"
 #include "testmain.h"
 
-// Discs copied to images and burnt by the program for a user at the screen.
+// Discs copied to images and burnt by the program, and images mounted, for a user at the screen.
 class TstDiscs : public GuestTest
 {
     Q_OBJECT
@@ -19,6 +19,7 @@ private slots:
     void discIsCopied();
     void buttonEjectsTheMountedDisc();
     void imageIsBurnt();
+    void imageMountedForNobodyIsUnmounted();
 
 private:
     void openCopyPage();
@@ -156,6 +157,23 @@ void TstDiscs::imageIsBurnt()
         return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex();
     };
     QCOMPARE(hash(readFile(machine.sharedFolder() + "/burnt").left(image.size())), hash(image));
+}
+
+// The disk service goes on by itself when the program has lost its patience with the tool.
+void TstDiscs::imageMountedForNobodyIsUnmounted()
+{
+    QVERIFY(QFile::copy(folder.filePath("disc.iso"), machine.imageFolder() + "/disc.iso"));
+    const auto result = machine.run(R"(PATH=$(dirname "$PROGRAM")/platform-tools:$PATH
+hdiutil mount /mnt/images/disc.iso &
+disown
+until grep -q . /proc/$!/task/$!/children; do sleep 0.05; done
+kill -9 $!
+until losetup --list | grep -q disc.iso; do sleep 0.05; done
+echo attached
+while losetup --list | grep -q disc.iso; do sleep 0.05; done
+echo released)");
+    QCOMPARE(result.output, QByteArray("attached\nreleased\n"));
+    QCOMPARE(machine.run("ls -A /media/tester").output, QByteArray());
 }
 
 KORVEX_TEST_MAIN(TstDiscs)
