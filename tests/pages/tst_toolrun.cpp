@@ -8,6 +8,7 @@
 #include "toolrun.h"
 
 #include <QElapsedTimer>
+#include <QPointer>
 #include <QThread>
 
 class TstToolRun : public TestCase
@@ -18,6 +19,7 @@ public slots:
     void line(QString text)
     {
         lines.append(text.trimmed());
+        speaker = sender();
         lateLines += run->isLate(sender()) ? 1 : 0;
     }
     void end()
@@ -60,6 +62,7 @@ private:
     std::unique_ptr<ScriptedCalls> tool;
     std::unique_ptr<ToolRun> run;
     QStringList lines;
+    QPointer<QObject> speaker; // the runner of the last line
     int ends = 0;
     int lateLines = 0;
     int lateEnds = 0;
@@ -190,8 +193,10 @@ void TstToolRun::destructorEndsTheToolAndWaits()
 {
     start({"ignore-term", "child 60000", "out ready\\n", "sleep 60000"});
     QVERIFY(QTest::qWaitFor([this] { return !lines.isEmpty(); }));
+    QVERIFY(speaker);
     run.reset();
     QVERIFY(childProcesses().isEmpty());
+    QVERIFY(!speaker);
     QVERIFY(isEverythingGone());
     QCOMPARE(ends, 0);
 }

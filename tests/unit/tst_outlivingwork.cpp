@@ -28,6 +28,7 @@ private slots:
     void everythingIsSaidOnce();
     void workIsAwaitedUntilTheToolIsKilled();
     void imageMountedForNobodyIsUnmounted();
+    void imageThatNobodyHearsOfIsUnmounted();
 
 private:
     // Runs a tool in a process of its own and kills it as soon as the file "begun" is there; makes
@@ -100,6 +101,32 @@ void TstOutlivingWork::imageMountedForNobodyIsUnmounted()
     QTRY_COMPARE(QDir(path("images")).entryList({"image-*"}), QStringList());
     const QString mountPoint = tools.calls().first().section('|', -1);
     QCOMPARE(tools.calls().last(), "umount|--lazy|--|" + mountPoint);
+}
+
+// As when the program has ended and the tool has not.
+void TstOutlivingWork::imageThatNobodyHearsOfIsUnmounted()
+{
+    const StandIns tools;
+    tools.add("mount");
+    tools.add("umount");
+    writeFile(path("x.iso"), "x");
+    RootVolumes volumes(path("media"), path("images"));
+    int ends[2] = {};
+    QCOMPARE(::pipe(ends), 0);
+    ::close(ends[0]);
+    const pid_t process = ::fork();
+    if (process == 0) {
+        ::dup2(ends[1], STDOUT_FILENO);
+        ::_exit(hdiutilTool({"mount", path("x.iso")}, volumes));
+    }
+    ::close(ends[1]);
+    int status = 0;
+    QCOMPARE(::waitpid(process, &status, 0), process);
+    QVERIFY(WIFEXITED(status));
+    QCOMPARE(WEXITSTATUS(status), 1);
+    QCOMPARE(tools.calls().size(), 2);
+    QVERIFY(tools.calls().last().startsWith("umount|--lazy|--|" + path("images/image-")));
+    QCOMPARE(QDir(path("images")).entryList({"image-*"}), QStringList());
 }
 
 KORVEX_TEST_MAIN(TstOutlivingWork)

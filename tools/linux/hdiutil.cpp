@@ -15,6 +15,9 @@
 
 #include <QFileInfo>
 
+#include <csignal>
+#include <cstdio>
+
 namespace
 {
 
@@ -25,19 +28,22 @@ int fail(const QString& verb, const QString& reason)
     return complain("hdiutil: " + verb + " failed - " + reason);
 }
 
-// The program kills a tool that takes too long, and does not know then what there is to unmount.
+// The program kills a tool that takes too long, or ends itself meanwhile, and does not know then
+// what there is to unmount.
 int mountForCaller(const QString& image, const std::function<bool()>& isAwaited,
                    VolumeService& volumes)
 {
     const MountResult mounted = volumes.mountImage(image);
     if (!mounted.error.isEmpty())
         return fail("mount", mounted.error);
-    if (!isAwaited()) {
-        volumes.unmountImage(mounted.path, true);
-        return 1;
+    if (isAwaited()) {
+        std::signal(SIGPIPE, SIG_IGN);
+        say(imageLine(mounted));
+        if (!std::ferror(stdout))
+            return 0;
     }
-    say(imageLine(mounted));
-    return 0;
+    volumes.unmountImage(mounted.path, true);
+    return 1;
 }
 
 int mountImage(const QString& image, VolumeService& volumes)
