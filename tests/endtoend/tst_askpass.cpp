@@ -96,9 +96,7 @@ void TstAskpass::scriptsAreProgramsForEverybody_data()
 void TstAskpass::scriptsAreProgramsForEverybody()
 {
     QFETCH(QString, script);
-    struct stat status
-    {
-    };
+    struct stat status{};
     QCOMPARE(::stat(qPrintable(programFolder + "/translations/" + script), &status), 0);
     QCOMPARE(status.st_mode & mode_t(07777), mode_t(0755));
 }

@@ -75,9 +75,7 @@ bool VirtualScreen::useKeyboard(const QString& layout) const
 bool VirtualScreen::hasFocus(const QString& title) const
 {
     return QTest::qWaitFor(
-        [&] {
-            return act({"getwindowfocus", "getwindowname"}) == title.toUtf8() + '\n';
-        },
+        [&] { return act({"getwindowfocus", "getwindowname"}) == title.toUtf8() + '\n'; },
         patience);
 }
 

@@ -92,8 +92,7 @@ void TstCBurnDialogLabel::lowerCaseBecomesUpperCase_data()
     QTest::newRow("latin") << "my Stick 1"
                            << "MY STICK 1";
     QTest::newRow("umlauts") << QString::fromUtf8("äöü") << QString::fromUtf8("ÄÖÜ");
-    QTest::newRow("sharp s") << "a" + sharpS + "b"
-                             << "ASSB";
+    QTest::newRow("sharp s") << "a" + sharpS + "b" << "ASSB";
     QTest::newRow("cyrillic") << QString::fromUtf8("диск") << QString::fromUtf8("ДИСК");
     QTest::newRow("greek") << QString::fromUtf8("δίσκος") << QString::fromUtf8("ΔΊΣΚΟΣ");
     QTest::newRow("dotless i") << QString::fromUtf8("ıi") << "II";

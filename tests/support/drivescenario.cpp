@@ -136,13 +136,17 @@ QString DriveScenario::copying(const QString& from, const QString& to)
 
 QString DriveScenario::holding(const QString& name) const
 {
-    return "await " + word(StandInFolder::gatePath(name));
+    return gates.hold(name);
+}
+
+bool DriveScenario::isHeld(const QString& name) const
+{
+    return gates.isReached(name);
 }
 
 void DriveScenario::release(const QString& name) const
 {
-    QFile gate(StandInFolder::gatePath(name));
-    QVERIFY(gate.open(QIODevice::WriteOnly));
+    gates.open(name);
 }
 
 // Replaced as a whole, as a tool may be reading it.

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "drivetexts.h"
+#include "toolgates.h"
 
 #include <QList>
 #include <QMap>
@@ -80,6 +81,8 @@ public:
     static QString copying(const QString& from, const QString& to);
     // Waits for release() with the same name; every call that holds it goes on then.
     QString holding(const QString& name) const;
+    // Whether a call holds it or comes to do so in time; see ToolGates.
+    bool isHeld(const QString& name) const;
     void release(const QString& name) const;
 
     // Every call so far, in order over all tools.
@@ -117,4 +120,5 @@ private:
     QList<Image> images;
     // May hold some that have come back.
     QStringList goneDevices;
+    ToolGates gates;
 };

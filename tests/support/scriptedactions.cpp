@@ -7,6 +7,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <sstream>
@@ -35,6 +36,18 @@ void writeText(int channel, const std::string& text)
 void sleepFor(long milliseconds)
 {
     std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+}
+
+// Goes on as well when the folder has gone, which is how a test ends. Gives up after a while, as
+// the test may have crashed and left its folder behind.
+void hold(const std::string& gate)
+{
+    const std::filesystem::path file(gate);
+    const auto end = std::chrono::steady_clock::now() + std::chrono::minutes(5);
+    std::ofstream(gate + ".reached").close();
+    while (!std::filesystem::exists(file) && std::filesystem::exists(file.parent_path()) &&
+           std::chrono::steady_clock::now() < end)
+        sleepFor(2);
 }
 
 void replayFile(std::size_t block, const std::string& path)
@@ -146,6 +159,8 @@ bool ScriptedActions::perform(const std::string& line)
         writeLines(number, text);
     else if (command == "flood")
         flood(number);
+    else if (command == "hold")
+        hold(unescaped(rest));
     else if (command == "sleep")
         sleepFor(number);
     else if (command == "input")

@@ -13,7 +13,8 @@
 //   file N PATH    writes a file to standard output in blocks of N bytes
 //   lines N TEXT   writes N lines, each TEXT and its number
 //   flood N        writes N MB to each channel, as fast as it can
-//   sleep MS
+//   hold PATH      makes PATH.reached and waits for the file PATH; see ToolGates
+//   sleep MS       only to stay there until it is killed: a pause is no way to meet a moment
 //   input          copies standard input to standard output until its end
 //   environment N  writes the variable N as N=value, or N! when it is not set
 //   ignore-term    ignores polite stop requests from here on

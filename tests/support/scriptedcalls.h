@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "toolgates.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -18,6 +20,12 @@ public:
     // The arguments of every call since construction.
     QList<QStringList> calls() const;
 
+    // Where a call is held, as ToolGates says; this object has to outlive the test's use of them.
+    QString holding(const QString& name) const { return gates.hold(name); }
+    bool isHeld(const QString& name) const { return gates.isReached(name); }
+    void release(const QString& name) const { gates.open(name); }
+
 private:
     QString path;
+    ToolGates gates;
 };

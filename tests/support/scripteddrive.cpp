@@ -10,7 +10,6 @@
 //
 // Actions, beside those of scriptedactions.h (paths are words as above):
 //
-//   await PATH               waits until the file is there or its folder has gone
 //   mkdir PATH               with its missing parents
 //   copy-tree FROM TO        a file, or what a folder holds, over what is there
 //   real PROGRAM [replace OLD NEW]   becomes that program with the arguments of this call
@@ -24,13 +23,11 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <chrono>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <string>
 #include <sys/wait.h>
-#include <thread>
 #include <unistd.h>
 #include <vector>
 
@@ -59,16 +56,6 @@ int exitStatusOf(pid_t child)
     while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
     }
     return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-}
-
-// Gives up after a minute: the test may have crashed and left its folder behind.
-void awaitFile(const std::string& path)
-{
-    const std::filesystem::path file(path);
-    const auto end = std::chrono::steady_clock::now() + std::chrono::minutes(1);
-    while (!std::filesystem::exists(file) && std::filesystem::exists(file.parent_path()) &&
-           std::chrono::steady_clock::now() < end)
-        std::this_thread::sleep_for(std::chrono::milliseconds(2));
 }
 
 void copyTree(const std::string& from, const std::string& to)
@@ -148,9 +135,7 @@ void perform(ScenarioCall& call, const std::string& line)
 {
     const std::string action = ScriptedActions::firstWord(line);
     const ScenarioCall::Words words = ScenarioCall::wordsOf(line);
-    if (action == "await")
-        awaitFile(pathIn(words, 1));
-    else if (action == "mkdir")
+    if (action == "mkdir")
         std::filesystem::create_directories(pathIn(words, 1));
     else if (action == "copy-tree")
         copyTree(pathIn(words, 1), pathIn(words, 2));

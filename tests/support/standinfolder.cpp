@@ -17,13 +17,6 @@ const QTemporaryDir& folder()
     return theFolder;
 }
 
-// A new folder for every scenario: who waits for a file in an earlier one sees it gone.
-QString& gateFolder()
-{
-    static QString name;
-    return name;
-}
-
 QStringList& systemFolders()
 {
     static QStringList folders;
@@ -52,13 +45,9 @@ void StandInFolder::clear()
 {
     QFile::remove(scenarioPath());
     QFile::remove(callsPath());
-    if (!gateFolder().isEmpty())
-        removeFolder(gateFolder());
     removeFolder("bin");
-    static int scenarios = 0;
-    gateFolder() = QString("gates%1").arg(++scenarios);
     const QDir root(folder().path());
-    if (!root.mkpath("bin") || !root.mkpath(gateFolder()))
+    if (!root.mkpath("bin"))
         qFatal("Cannot make %s", qPrintable(root.path()));
     for (const char* const program :
          {"diskutil", "drutil", "hdiutil", "mount", "osascript", "sudo", "sync"})
@@ -78,11 +67,6 @@ QString StandInFolder::callsPath()
 QString StandInFolder::toolPath(const QString& program)
 {
     return folder().filePath("bin/" + program);
-}
-
-QString StandInFolder::gatePath(const QString& name)
-{
-    return folder().filePath(gateFolder() + '/' + name);
 }
 
 QString StandInFolder::realToolPath(const QString& program)

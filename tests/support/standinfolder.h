@@ -12,15 +12,13 @@
 namespace StandInFolder
 {
 
-// All stand-ins in place, no scenario, no calls, nothing held.
+// All stand-ins in place, no scenario, no calls.
 void clear();
 
 QString scenarioPath();
 QString callsPath();
 // Where a tool is found by its name.
 QString toolPath(const QString& program);
-// The file that ends the waiting of the calls that hold it.
-QString gatePath(const QString& name);
 // Where a program lies on the PATH that the process was started with; empty if nowhere.
 QString realToolPath(const QString& program);
 

@@ -7,17 +7,50 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <cstdio>
+#include <cstdlib>
+
+// Fails a test program that ends before its last function is through: what it tests has called
+// exit(0), which would count as passed.
+class EndOfTests
+{
+public:
+    EndOfTests()
+    {
+        std::atexit(insist);
+        std::at_quick_exit(insist);
+    }
+    static void reach() { isReached() = true; }
+
+private:
+    static bool& isReached()
+    {
+        static bool reached = false;
+        return reached;
+    }
+    static void insist()
+    {
+        if (isReached())
+            return;
+        std::fputs("The test program was left before its last function had ended.\n", stderr);
+        std::_Exit(EXIT_FAILURE);
+    }
+};
+
 // Runs a test class in an application whose data and settings folder is a temporary one, so that no
 // test sees what another left or what the user has.
 template<typename TestClass>
 int runTests(int argc, char* argv[])
 {
+    const EndOfTests end;
     const QTemporaryDir dataFolder;
     qputenv("XDG_DATA_HOME", QFile::encodeName(dataFolder.path()));
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(dataFolder.path()));
     const QApplication app(argc, argv);
     TestClass test;
-    return QTest::qExec(&test, argc, argv);
+    const int failures = QTest::qExec(&test, argc, argv);
+    EndOfTests::reach();
+    return failures;
 }
 
 // The main function of a test executable.

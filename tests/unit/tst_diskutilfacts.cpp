@@ -173,11 +173,10 @@ void TstDiskutilFacts::failingDiskutilTellsWhy_data()
         << "diskutil failed: No disk";
     QTest::newRow("beside it") << QByteArray("echo 'No disk' >&2; exit 1")
                                << "diskutil failed with exit code 1: No disk";
-    QTest::newRow("after an answer") << "cat <<'END'\n" + stick + "END\nexit 3"
-                                     << "diskutil failed with exit code 3";
+    QTest::newRow("after an answer")
+        << "cat <<'END'\n" + stick + "END\nexit 3" << "diskutil failed with exit code 3";
     QTest::newRow("not at all")
-        << "[ \"$*\" = 'info -plist /dev/disk6' ] || exit 1\ncat <<'END'\n" + stick + "END"
-        << "";
+        << "[ \"$*\" = 'info -plist /dev/disk6' ] || exit 1\ncat <<'END'\n" + stick + "END" << "";
 }
 
 void TstDiskutilFacts::failingDiskutilTellsWhy()

@@ -66,8 +66,7 @@ void TstFollowedProgram::inputIsGivenAndEnds()
     const StandIns tools;
     tools.add("tool", "cat");
     QStringList lines;
-    followProgram(
-        "tool", {}, [&lines](const QString& line) { lines << line; }, "x\ny\n");
+    followProgram("tool", {}, [&lines](const QString& line) { lines << line; }, "x\ny\n");
     QCOMPARE(lines, QStringList({"x", "y"}));
 }
 

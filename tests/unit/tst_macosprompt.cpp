@@ -121,9 +121,7 @@ void TstMacosPrompt::scriptAsksInItsLanguage()
     QFETCH(QString, script);
     QFETCH(QString, code);
     const QString path = scriptFolder + "/shipped/" + script;
-    struct stat status
-    {
-    };
+    struct stat status{};
     QCOMPARE(::stat(qPrintable(path), &status), 0);
     QCOMPARE(status.st_mode & mode_t(07777), mode_t(0755));
 

@@ -85,9 +85,8 @@ void tourDiscCopy(Tour& tour)
         copyScripted(tour);
     }
     tour.user.click(page, "eject");
-    tour.user.waitFor("the call that ejects the disc", [&] {
-        return tour.drives.callsOf("hdiutil").contains({"eject", device});
-    });
+    tour.user.waitFor("the call that ejects the disc",
+                      [&] { return tour.drives.callsOf("hdiutil").contains({"eject", device}); });
     tour.album.note("Eject clicked", {QString("hdiutil eject %1 (scripted)").arg(device)});
     const QList<QStringList> unforeseen = tour.drives.unmatchedCalls();
     require(unforeseen.isEmpty(), unforeseen.isEmpty()
