@@ -36,13 +36,15 @@ as_root()
     fi
 }
 
-# Lists the packages of debian-packages.txt that are not installed, one per line.
+# missing_packages <lane>...: the packages of debian-packages.txt for these that are not installed,
+# one per line.
 missing_packages()
 {
-    local package
-    while read -r package _; do
-        case $package in
-            '' | '#'*) continue ;;
+    local lane package
+    while read -r lane package _; do
+        case " $* " in
+            *" ${lane:-#} "*) ;;
+            *) continue ;;
         esac
         case $(dpkg-query -W -f='${db:Status-Abbrev}' "$package" 2>/dev/null) in
             ?i*) ;;
@@ -60,10 +62,11 @@ install_packages()
         -o DPkg::Lock::Timeout=300 install "$@"
 }
 
+# install_debian <lane>...
 install_debian()
 {
     local missing command
-    missing=$(missing_packages | tr '\n' ' ')
+    missing=$(missing_packages "$@" | tr '\n' ' ')
     missing=${missing% }
     if [ -z "$missing" ]; then
         return 0
@@ -116,16 +119,20 @@ become_owner()
     exec runuser -u "$owner" -- env HOME="$home" USER="$owner" LOGNAME="$owner" "$@"
 }
 
-# prepare <script> <arguments>...: makes the machine ready to build. The script and its arguments
-# are what is started again when the user has to change.
+# prepare <lanes> <script> <arguments>...: makes the machine ready to build, with the packages of
+# these lanes of debian-packages.txt. The script and its arguments are what is started again when the
+# user has to change.
 prepare()
 {
+    local lanes=$1
+    shift
     if [ "$(uname -s)" = Darwin ]; then
         check_macos
         return
     fi
     if command -v dpkg-query >/dev/null; then
-        install_debian
+        # shellcheck disable=SC2086 # one word per lane
+        install_debian $lanes
     else
         say "This is no Debian system: packages are not checked, see packaging/debian-packages.txt."
     fi
