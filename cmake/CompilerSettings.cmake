@@ -23,7 +23,11 @@ target_compile_definitions(korvex_settings INTERFACE QT_NO_FOREACH QT_DEPRECATED
 # which keeps the layers pointing one way.
 function(korvex_library name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
-  add_library(${name} STATIC ${ARG_SOURCES})
+  set(kind STATIC)
+  if(KORVEX_SHARED_LIBRARIES)
+    set(kind SHARED)
+  endif()
+  add_library(${name} ${kind} ${ARG_SOURCES})
   target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
   target_link_libraries(${name} PUBLIC ${ARG_LINKS} PRIVATE korvex_settings)
 endfunction()
