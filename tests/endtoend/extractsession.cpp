@@ -11,9 +11,9 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QTableWidget>
+#include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
-#include <QtTest>
 
 namespace
 {

@@ -3,7 +3,7 @@
 
 #include "virtualscreen.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <csignal>
 #include <sys/prctl.h>

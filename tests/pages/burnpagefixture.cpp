@@ -5,7 +5,7 @@
 
 #include <QImage>
 #include <QRadioButton>
-#include <QtTest>
+#include <QTest>
 
 namespace
 {

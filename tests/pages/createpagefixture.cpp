@@ -14,7 +14,7 @@
 
 #include <QApplication>
 #include <QHeaderView>
-#include <QtTest>
+#include <QTest>
 
 CreatePageFixture::CreatePageFixture()
     : PageFixture(new CPage3(&window))

@@ -8,7 +8,7 @@
 
 #include <QComboBox>
 #include <QLineEdit>
-#include <QtTest>
+#include <QTest>
 
 void DiscCopyTest::initTestCase()
 {

@@ -11,7 +11,7 @@
 
 #include <QDir>
 #include <QDirIterator>
-#include <QtTest>
+#include <QTest>
 
 #include <fcntl.h>
 #include <sys/stat.h>

@@ -12,7 +12,7 @@
 
 #include <QAbstractButton>
 #include <QMessageBox>
-#include <QtTest>
+#include <QTest>
 
 namespace
 {

@@ -13,7 +13,7 @@
 #include "trigger.h"
 
 #include <QApplication>
-#include <QtTest>
+#include <QTest>
 
 namespace
 {

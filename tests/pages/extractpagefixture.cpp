@@ -10,7 +10,7 @@
 #include "usermouse.h"
 
 #include <QApplication>
-#include <QtTest>
+#include <QTest>
 
 namespace
 {

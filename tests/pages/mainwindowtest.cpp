@@ -8,7 +8,7 @@
 #include "usermouse.h"
 
 #include <QDesktopServices>
-#include <QtTest>
+#include <QTest>
 
 void MainWindowTest::initTestCase()
 {

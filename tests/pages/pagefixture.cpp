@@ -10,8 +10,8 @@
 #include <QApplication>
 #include <QLabel>
 #include <QProgressBar>
+#include <QTest>
 #include <QTimer>
-#include <QtTest>
 
 PageFixture::PageFixture(ImageDialog* page)
     : shownPage(page)

@@ -9,7 +9,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QSet>
-#include <QtTest>
+#include <QTest>
 
 void PictureTest::initTestCase()
 {

@@ -11,7 +11,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QtTest>
+#include <QTest>
 
 // The Copy Disk page while a disc is copied.
 class TstCPage5Copy : public DiscCopyTest

@@ -9,7 +9,7 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QtTest>
+#include <QTest>
 
 // The Copy Disk page's list of drives.
 class TstCPage5Drives : public DiscCopyTest

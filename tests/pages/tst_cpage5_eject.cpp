@@ -7,7 +7,7 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QtTest>
+#include <QTest>
 
 // Ejecting a disc from the Copy Disk page.
 class TstCPage5Eject : public DiscCopyTest

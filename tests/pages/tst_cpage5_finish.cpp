@@ -13,7 +13,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QLineEdit>
-#include <QtTest>
+#include <QTest>
 
 // How a copy on the Copy Disk page ends, whatever the tool did.
 class TstCPage5Finish : public DiscCopyTest

@@ -11,7 +11,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QtTest>
+#include <QTest>
 
 // The Copy Disk page's form: what it has and what it says.
 class TstCPage5Form : public DiscCopyTest

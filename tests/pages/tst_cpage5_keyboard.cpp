@@ -7,7 +7,7 @@
 
 #include <QApplication>
 #include <QLineEdit>
-#include <QtTest>
+#include <QTest>
 
 // How the keyboard goes through the Copy Disk page, and how the page is left.
 class TstCPage5Keyboard : public DiscCopyTest

@@ -7,7 +7,7 @@
 
 #include <QComboBox>
 #include <QLineEdit>
-#include <QtTest>
+#include <QTest>
 
 // How the Copy Disk page finds the place where a disc is mounted.
 class TstCPage5MountPoint : public DiscCopyTest

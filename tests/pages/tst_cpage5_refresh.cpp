@@ -6,7 +6,7 @@
 #include "testmain.h"
 
 #include <QComboBox>
-#include <QtTest>
+#include <QTest>
 
 // What the news of a drive does to the list of the Copy Disk page and to the choice in it.
 class TstCPage5Refresh : public DiscCopyTest

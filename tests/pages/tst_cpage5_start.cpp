@@ -8,7 +8,7 @@
 
 #include <QComboBox>
 #include <QLineEdit>
-#include <QtTest>
+#include <QTest>
 
 // What the Copy Disk page does from Start to the call of the tool that makes the image.
 class TstCPage5Start : public DiscCopyTest

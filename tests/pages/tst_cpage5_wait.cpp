@@ -11,7 +11,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QtTest>
+#include <QTest>
 
 // What may happen while the Copy Disk page waits for its tools.
 class TstCPage5Wait : public DiscCopyTest

@@ -13,7 +13,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QtTest>
+#include <QTest>
 
 // Pictures of the Copy Disk page in each of its states.
 class TstDiscCopyPictures : public DiscCopyTest

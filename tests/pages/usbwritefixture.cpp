@@ -9,7 +9,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QtTest>
+#include <QTest>
 
 UsbWriteFixture::UsbWriteFixture(UsbDisk usbDisk)
 {

@@ -3,7 +3,7 @@
 
 #include "usbwritehold.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 

@@ -7,7 +7,7 @@
 
 #include <QDir>
 #include <QSaveFile>
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 

@@ -4,7 +4,7 @@
 #include "scriptedcalls.h"
 
 #include <QFile>
-#include <QtTest>
+#include <QTest>
 
 namespace
 {

@@ -4,7 +4,7 @@
 #include "testcase.h"
 
 #include <QMutex>
-#include <QtTest>
+#include <QTest>
 
 namespace
 {

@@ -6,7 +6,7 @@
 #include "testfiles.h"
 
 #include <QFileInfo>
-#include <QtTest>
+#include <QTest>
 
 namespace
 {

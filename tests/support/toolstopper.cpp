@@ -7,8 +7,8 @@
 #include "testfiles.h"
 
 #include <QElapsedTimer>
+#include <QTest>
 #include <QThread>
-#include <QtTest>
 
 #include <csignal>
 

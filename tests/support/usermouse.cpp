@@ -4,7 +4,7 @@
 #include "usermouse.h"
 
 #include <QCursor>
-#include <QtTest>
+#include <QTest>
 #include <QWidget>
 #include <QWindow>
 

@@ -8,7 +8,7 @@
 #include "virtualmachine.h"
 
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 namespace
 {

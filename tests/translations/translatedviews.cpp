@@ -14,7 +14,7 @@
 
 #include <QMenu>
 #include <QMenuBar>
-#include <QtTest>
+#include <QTest>
 
 namespace
 {

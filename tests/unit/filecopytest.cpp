@@ -5,7 +5,7 @@
 
 #include "util.h"
 
-#include <QtTest>
+#include <QTest>
 
 void FileCopyTest::init()
 {

@@ -5,7 +5,7 @@
 
 #include "usermouse.h"
 
-#include <QtTest>
+#include <QTest>
 
 const QSize ImageCtrlTest::small(20, 10);
 const QPoint ImageCtrlTest::corner(100, 100);

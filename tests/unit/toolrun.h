@@ -5,7 +5,7 @@
 
 #include "cruncommandthread.h"
 
-#include <QtTest>
+#include <QTest>
 
 // What the runner's tests have in common.
 

@@ -14,7 +14,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QtTest>
+#include <QTest>
 
 namespace
 {

@@ -8,7 +8,7 @@
 #include "virtualmachine.h"
 
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 // Calls of the machine, of the program in it, and of steps that check for themselves: each ends the
 // test function when it fails.
