@@ -17,6 +17,8 @@ private slots:
     void blanksAndUnicodeOfNamesAreKept();
     void whatLiesOnAPartitionIsItsChild();
     void everyMountPointIsRead();
+    void sizeThatNoDiskHasIsNone_data();
+    void sizeThatNoDiskHasIsNone();
     void damagedAnswer_data();
     void damagedAnswer();
     void everyCutAnswerIsAnError();
@@ -111,6 +113,29 @@ void TstLsblk::everyMountPointIsRead()
 {
     QCOMPARE(disk("usb-stick-mounted-as-root-too").children.first().mountPoints,
              QStringList({"/media/user/x", "/"}));
+}
+
+void TstLsblk::sizeThatNoDiskHasIsNone_data()
+{
+    QTest::addColumn<QByteArray>("size");
+    QTest::addColumn<qint64>("bytes");
+    QTest::newRow("number") << QByteArray("1e12") << 1000000000000LL;
+    QTest::newRow("largest") << QByteArray("9223372036854774784") << 9223372036854774784LL;
+    QTest::newRow("one too much") << QByteArray("9223372036854775808") << 0LL;
+    QTest::newRow("far too much") << QByteArray("1e71") << 0LL;
+    QTest::newRow("far below zero") << QByteArray("-1e71") << 0LL;
+    QTest::newRow("below zero") << QByteArray("-512") << 0LL;
+    QTest::newRow("text, too much") << QByteArray("\"9223372036854775808\"") << 0LL;
+    QTest::newRow("text, below zero") << QByteArray("\"-512\"") << 0LL;
+}
+
+void TstLsblk::sizeThatNoDiskHasIsNone()
+{
+    QFETCH(QByteArray, size);
+    QFETCH(qint64, bytes);
+    const BlockDevices read = readBlockDevices(R"({"blockdevices":[{"size":)" + size + "}]}");
+    QCOMPARE(read.error, QString());
+    QCOMPARE(read.devices.value(0).size, bytes);
 }
 
 void TstLsblk::damagedAnswer_data()

@@ -9,6 +9,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -20,12 +22,15 @@ QString textOf(const QJsonValue& value)
     return value.toString().trimmed();
 }
 
-// Older versions write every value as a text.
-qint64 numberOf(const QJsonValue& value)
+// Bytes, 0 for what is no size. Older versions write every value as a text.
+qint64 sizeOf(const QJsonValue& value)
 {
     if (value.isString())
-        return value.toString().toLongLong();
-    return static_cast<qint64>(value.toDouble());
+        return std::max(value.toString().toLongLong(), 0LL);
+    // The first number that a qint64 does not hold; converting it or more is undefined.
+    constexpr double tooLarge = 9223372036854775808.0;
+    const double bytes = value.toDouble();
+    return bytes > 0 && bytes < tooLarge ? static_cast<qint64>(bytes) : 0;
 }
 
 bool flagOf(const QJsonValue& value)
@@ -54,7 +59,7 @@ BlockDevice deviceOf(const QJsonObject& object)
     BlockDevice device;
     device.path = textOf(object.value(QLatin1String("path")));
     device.type = textOf(object.value(QLatin1String("type")));
-    device.size = numberOf(object.value(QLatin1String("size")));
+    device.size = sizeOf(object.value(QLatin1String("size")));
     device.removable = flagOf(object.value(QLatin1String("rm")));
     device.hotplug = flagOf(object.value(QLatin1String("hotplug")));
     device.transport = textOf(object.value(QLatin1String("tran")));
