@@ -25,6 +25,7 @@ private slots:
     void refusedFileSystems();
     void damagedChainIsTold_data();
     void damagedChainIsTold();
+    void chainInACircleIsTold();
     void rootFolderInACircleEnds();
     void tableInUseIsRead();
 };
@@ -169,6 +170,9 @@ void TstFatReader::refusedFileSystems_data()
     QTest::newRow("FAT32 of too few clusters") << 32 << 13 << QByteArray("\x02") << contradicts;
     QTest::newRow("FAT32 with a short table of FAT16") << 32 << 22 << word(600) << contradicts;
     QTest::newRow("third table in use") << 32 << 40 << word(0x82) << contradicts;
+    // As long as it says it is, and the table in use so far away that 32 bits do not hold where.
+    QTest::newRow("table far outside in use")
+        << 32 << 32 << QByteArray::fromHex("00000030121111118f00") << contradicts;
 }
 
 void TstFatReader::refusedFileSystems()
@@ -203,6 +207,18 @@ void TstFatReader::damagedChainIsTold()
     const qint64 table = wordAt(image.sector(0), 14) * 512;
     QCOMPARE(find(image).error, QString());
     overwrite(image, table + 3 * 2, word(entry));
+    const FatReader::File file = find(image);
+    QCOMPARE(file.error, QString("the chain of clusters of \"NUMBERS TXT\" is damaged"));
+    QVERIFY(file.sectors.isEmpty());
+}
+
+void TstFatReader::chainInACircleIsTold()
+{
+    const FatImage image(16, 4, 20);
+    image.put("numbers.txt", numbered(3 * 2048));
+    const qint64 table = wordAt(image.sector(0), 14) * 512;
+    // The file's second cluster leads back to its first, so that the third one is never reached.
+    overwrite(image, table + 3 * 2, word(2));
     const FatReader::File file = find(image);
     QCOMPARE(file.error, QString("the chain of clusters of \"NUMBERS TXT\" is damaged"));
     QVERIFY(file.sectors.isEmpty());

@@ -6,6 +6,8 @@
 #include "bytes.h"
 #include "mbr.h"
 
+#include <algorithm>
+
 namespace
 {
 
@@ -21,6 +23,12 @@ constexpr quint32 fat32MinimumClusters = 65525;
 constexpr quint32 fat32MaximumClusters = 0x0ffffff5;
 // Up to here the table's entries are numbers of clusters, or damaged.
 constexpr quint32 lastOrdinary = 0x0ffffff7;
+
+bool namesOneTwice(QVector<quint32> sectors)
+{
+    std::sort(sectors.begin(), sectors.end());
+    return std::adjacent_find(sectors.cbegin(), sectors.cend()) != sectors.cend();
+}
 
 } // namespace
 
@@ -77,10 +85,10 @@ QString FatReader::readParameters()
         rootCluster = dwordAt(sector, 44);
         // Only one table may be in use, not the first then.
         const quint16 flags = wordAt(sector, 40);
-        if (flags & 0x80)
-            tableStart += static_cast<quint32>((flags & 0x0f) * table);
-        if (tableStart >= rootStart)
+        const quint64 inUse = tableStart + (flags & 0x80 ? (flags & 0x0f) * table : 0);
+        if (inUse >= root)
             return damaged;
+        tableStart = static_cast<quint32>(inUse);
     }
     return {};
 }
@@ -177,7 +185,8 @@ FatReader::File FatReader::find(const QByteArray& storedName)
     if (clustersNeeded > 0 && clustersNeeded <= clusters)
         file.sectors =
             chainSectors(upper << 16 | wordAt(entry, 26), static_cast<quint32>(clustersNeeded));
-    if (file.sectors.size() < needed) {
+    // What is written to a chain that runs in a circle overwrites itself.
+    if (file.sectors.size() < needed || namesOneTwice(file.sectors)) {
         file.sectors.clear();
         file.error = QStringLiteral("the chain of clusters of \"%1\" is damaged").arg(name);
         return file;
