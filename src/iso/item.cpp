@@ -3,7 +3,7 @@
 
 #include "item.h"
 
-static_assert(QTypeInfo<Item>::isLarge || QTypeInfo<Item>::isStatic,
+static_assert(bool(QTypeInfo<Item>::isLarge) || bool(QTypeInfo<Item>::isStatic),
               "the list must allocate each entry on its own, or pointers to entries would move");
 
 Item::Item(const Item& other)

@@ -38,7 +38,7 @@ void exchangeHandlers(void (*from)(int), void (*to)(int))
         if (action.sa_handler != from)
             continue;
         action.sa_handler = to;
-        action.sa_flags = SA_RESETHAND;
+        action.sa_flags = static_cast<int>(SA_RESETHAND);
         ::sigaction(signal, &action, nullptr);
     }
 }
