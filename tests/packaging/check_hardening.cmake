@@ -1,0 +1,51 @@
+# cmake -DPROGRAMS=<files> -DREADELF=<program> -DOBJDUMP=<program> -DCOMMANDS=<compile_commands.json>
+#       -DSOURCE_DIR=<folder> -P check_hardening.cmake
+# Fails when a program of ours lacks what cmake/Hardening.cmake gives to all of them. The finished
+# programs are read for what shows in them, the compiler's command lines for the rest.
+
+# Fails unless what was read of the program matches.
+function(expect program text pattern what)
+  if(NOT text MATCHES "${pattern}")
+    message(SEND_ERROR "${program}: ${what}")
+  endif()
+endfunction()
+
+foreach(program ${PROGRAMS})
+  execute_process(COMMAND ${READELF} --wide --file-header --program-headers --dynamic --symbols
+    ${program} OUTPUT_VARIABLE elf COMMAND_ERROR_IS_FATAL ANY)
+  expect(${program} "${elf}" "Type: +DYN" "always lies at the same place")
+  expect(${program} "${elf}" "\\(FLAGS_1\\)[^\n]* PIE" "is no position-independent program")
+  expect(${program} "${elf}" "\\(FLAGS(_1)?\\)[^\n]* (BIND_NOW|NOW)" "binds functions late")
+  expect(${program} "${elf}" "\n *GNU_RELRO " "leaves its tables of functions writable")
+  expect(${program} "${elf}" "\n *GNU_STACK [^\n]* RW +0x" "has an executable stack")
+  expect(${program} "${elf}" "__stack_chk_fail" "does not watch its stack")
+  execute_process(COMMAND ${OBJDUMP} --disassemble=main --no-show-raw-insn ${program}
+    OUTPUT_VARIABLE code COMMAND_ERROR_IS_FATAL ANY)
+  if(CMAKE_HOST_SYSTEM_PROCESSOR STREQUAL "x86_64")
+    expect(${program} "${code}" "<main>:\n[^\n]*endbr64" "can be entered anywhere")
+  endif()
+endforeach()
+
+file(READ ${COMMANDS} commands)
+string(JSON count LENGTH "${commands}")
+math(EXPR last "${count} - 1")
+set(checked 0)
+foreach(index RANGE ${last})
+  string(JSON source GET "${commands}" ${index} file)
+  if(NOT source MATCHES "^${SOURCE_DIR}/(src|tools)/" OR source MATCHES "^${SOURCE_DIR}/tools/tour/")
+    continue()
+  endif()
+  string(JSON command GET "${commands}" ${index} command)
+  math(EXPR checked "${checked} + 1")
+  foreach(flag -D_FORTIFY_SOURCE=2 -fstack-protector-strong -fstack-clash-protection -Wformat=2)
+    string(FIND "${command} " " ${flag} " place)
+    if(place EQUAL -1)
+      message(SEND_ERROR "${source}: compiled without ${flag}")
+    endif()
+  endforeach()
+endforeach()
+if(checked EQUAL 0)
+  message(SEND_ERROR "No source of ours in ${COMMANDS}")
+endif()
+list(LENGTH PROGRAMS count)
+message(STATUS "${count} programs and the compiling of ${checked} sources are as they should be")
