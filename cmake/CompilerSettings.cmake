@@ -47,3 +47,5 @@ function(korvex_program name)
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${ARG_FOLDER})
   set_property(GLOBAL APPEND PROPERTY KORVEX_PROGRAMS ${name})
 endfunction()
+
+include(Sanitizers)

@@ -31,7 +31,7 @@ endfunction()
 
 find_program(KORVEX_GOLD ld.gold)
 mark_as_advanced(KORVEX_GOLD)
-if(KORVEX_GOLD)
+if(KORVEX_GOLD AND NOT KORVEX_SANITIZE)
   set(quick_linker -fuse-ld=gold)
 endif()
 
