@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 
 #include "bootimages.h"
+#include "require.h"
 #include "util.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 
 #include <cstdio>
-#include <cstdlib>
 
 // Feeds Util::BootExtract() with damaged images, given in short form, and stops where it does
 // anything but what a second reading of the image expects. The inputs in tests/data/bootimage are
@@ -18,14 +18,6 @@ namespace
 {
 
 void ignore(QtMsgType, const QMessageLogContext&, const QString&) {}
-
-void require(bool condition, const char* what)
-{
-    if (condition)
-        return;
-    std::fprintf(stderr, "%s\n", what);
-    std::abort();
-}
 
 } // namespace
 
@@ -42,8 +34,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     const QString image = folder.filePath("image.iso");
     const QString output = folder.filePath("boot.bin");
     QFile::remove(output);
-    const QByteArray shortForm(reinterpret_cast<const char*>(data), int(size));
-    require(writeFromShortForm(shortForm, image), "cannot write the image");
+    require(writeFromShortForm(inputBytes(data, size), image), "cannot write the image");
 
     const BootOutcome expected = expectedBootOutcome(image);
     require(Util::BootExtract(image, output) == expected.accepted, "another result");
