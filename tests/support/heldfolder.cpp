@@ -15,7 +15,7 @@
 namespace
 {
 
-constexpr int limitMs = 20000;
+constexpr int limitMs = 90'000;
 
 } // namespace
 

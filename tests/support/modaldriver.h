@@ -29,7 +29,7 @@ class ModalDriver : public QObject
 
 public:
     // The time limit holds for each dialog anew, for its coming as well as for its going.
-    explicit ModalDriver(int timeoutMs = 10000);
+    explicit ModalDriver(int timeoutMs = 60'000);
     ~ModalDriver() override;
 
     // Clicks the child widget with this object name in the next dialog. dialogClass is the class's
