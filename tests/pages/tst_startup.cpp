@@ -9,10 +9,90 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTextCodec>
 
 #include <sys/stat.h>
+#include <unistd.h>
+
+namespace
+{
+
+// Runs a command where everything is as it is here, but for one folder of ours in the root folder,
+// with the program in it. $1: an empty folder, $2: the program, $3: the folder, then the command.
+const char* const withAnotherRoot = R"(
+    set -e
+    root=$1; program=$2; folder=$3; shift 3
+    mount -t tmpfs none "$root"
+    for entry in /*; do
+        case $entry in /Volumes|/volumes) continue ;; esac
+        if [ -L "$entry" ]; then cp -P "$entry" "$root$entry"
+        elif [ -d "$entry" ]; then mkdir "$root$entry"; mount --rbind "$entry" "$root$entry"
+        fi
+    done
+    mkdir -p "$root$folder"
+    cp "$program" "$root$folder/"
+    exec chroot "$root" "$@"
+)";
+
+// The shipped program in a folder that may only be made in the root folder: in a file system of
+// its own, which root may have and on most systems everybody, or else really there.
+class PlacedProgram
+{
+public:
+    explicit PlacedProgram(const QString& place)
+        : folder(place)
+    {
+        for (const QStringList& options : {QStringList{"-m"}, QStringList{"-r", "-m"}}) {
+            launcher =
+                QStringList{"unshare"} + options +
+                QStringList{"sh", "-c", withAnotherRoot, "sh", root.path(), KORVEX_PROGRAM, folder};
+            if (run({"true"}) && process.exitCode() == 0)
+                return;
+        }
+        launcher.clear();
+        mayRemove = !QFileInfo::exists('/' + folder.section('/', 1, 1));
+        QDir().mkpath(folder);
+        QFile::copy(KORVEX_PROGRAM, path());
+    }
+
+    ~PlacedProgram()
+    {
+        if (launcher.isEmpty() && mayRemove)
+            QDir('/' + folder.section('/', 1, 1)).removeRecursively();
+    }
+
+    // Whether it runs and ends.
+    bool run() { return run({path()}); }
+    int exitCode() const { return process.exitCode(); }
+    QByteArray said() { return process.readAllStandardOutput(); }
+    QByteArray complaints() { return process.readAllStandardError(); }
+
+private:
+    QString path() const { return folder + '/' + QFileInfo(KORVEX_PROGRAM).fileName(); }
+
+    bool run(const QStringList& command)
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("QT_PLUGIN_PATH", KORVEX_TEST_PLUGINS);
+        environment.insert("QT_QPA_GENERIC_PLUGINS", "dialoganswerer");
+        environment.insert("LC_ALL", "C.UTF-8");
+        process.setProcessEnvironment(environment);
+        QStringList words = launcher + command;
+        const QString first = words.takeFirst();
+        process.start(first, words);
+        return process.waitForFinished(60'000) && process.exitStatus() == QProcess::NormalExit;
+    }
+
+    const QTemporaryDir root;
+    const QString folder;
+    QStringList launcher;
+    QProcess process;
+    bool mayRemove = false;
+};
+
+} // namespace
 
 // The steps between the process entry and the main window, in a process that has taken them.
 class TstStartup : public TestCase
@@ -30,6 +110,8 @@ private slots:
     void refusalHasNoSecondButton();
     void otherFoldersAreNotRefused_data();
     void otherFoldersAreNotRefused();
+    void programBelowVolumesTellsAndEnds();
+    void programBelowAFolderLikeItStarts();
     void applicationHasItsFontIconAndStyle();
 };
 
@@ -127,6 +209,22 @@ void TstStartup::otherFoldersAreNotRefused()
     QFETCH(QString, folder);
     const ModalDriver driver;
     QVERIFY(!refuseToRunFrom(folder));
+}
+
+void TstStartup::programBelowVolumesTellsAndEnds()
+{
+    PlacedProgram program("/Volumes/Korvex ISO Editor");
+    QVERIFY2(program.run(), program.complaints());
+    QCOMPARE(program.said(), QByteArray("Please drag the icon to Application folder first!\n"));
+    QCOMPARE(program.exitCode(), 0);
+}
+
+void TstStartup::programBelowAFolderLikeItStarts()
+{
+    PlacedProgram program("/volumes/Korvex ISO Editor");
+    QVERIFY2(program.run(), program.complaints());
+    QCOMPARE(program.said(), QByteArray("MainWindow\n"));
+    QCOMPARE(program.exitCode(), 3);
 }
 
 void TstStartup::applicationHasItsFontIconAndStyle()
