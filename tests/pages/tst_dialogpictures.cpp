@@ -1,6 +1,7 @@
 // Copyright (c) 2026 The Korvex ISO Editor developers
 // SPDX-License-Identifier: MIT
 
+#include "buttonpictures.h"
 #include "caboutusdialog.h"
 #include "cimagebutton.h"
 #include "cinputdialog.h"
@@ -40,6 +41,7 @@ private slots:
     void about();
     void checkBoxHeader();
     void buttonStates();
+    void buttonsShowThePictureOfTheirState();
 
 private:
     void shoot(QWidget* widget, const QString& name);
@@ -254,6 +256,39 @@ QList<QPixmap> TstDialogPictures::statesOf(CImageButton* button)
     button->setFocus(Qt::TabFocusReason);
     states.append(button->grab());
     return states;
+}
+
+void TstDialogPictures::buttonsShowThePictureOfTheirState()
+{
+    // Each button's name with that of its pictures and their numbers: normal, under the mouse,
+    // pressed and disabled.
+    const auto check = [](ImageDialog& dialog, const QStringList& buttons) {
+        dialog.setModal(false);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog, 30'000));
+        QStringList seen;
+        for (const QString& button : buttons) {
+            auto* const control = dialog.findChild<CImageButton*>(button.section(' ', 0, 0));
+            QVERIFY2(control && control->isVisible(), qPrintable(button));
+            const QString picture = button.section(' ', 1, 1);
+            seen << control->objectName() + ' ' + picture + ' ' + shownPictures(control, picture);
+        }
+        QCOMPARE(seen, buttons);
+    };
+    CommDialog message(nullptr);
+    check(message, {"btnok OK 1233", "btncancel NO_ 1233", "btnclose osxclose 1234"});
+    CommDialog success(nullptr);
+    success.SetOpen("/");
+    check(success, {"btncancel Open-Folder 1223"});
+    CProgressDialog progress(nullptr);
+    check(progress, {"btncancel Stop 1234"});
+    GerneralDialog notice(nullptr);
+    notice.SetBackGround(":/nwu/select_files_extract", "Do you want to continue?");
+    notice.AddOK(120, 80);
+    notice.AddNo(120, 220);
+    check(notice, {"btnok OK_ 1231", "btnno NO_ 1231", "btnclose osxclose 1234"});
+    CAboutusDialog about;
+    check(about, {"close osxclose 1234"});
 }
 
 // The dialogs' buttons, row by row: normal, hover, pressed, disabled, focused.

@@ -1,6 +1,7 @@
 // Copyright (c) 2026 The Korvex ISO Editor developers
 // SPDX-License-Identifier: MIT
 
+#include "buttonpictures.h"
 #include "cburndialog.h"
 #include "cimagebutton.h"
 #include "cpage2.h"
@@ -23,6 +24,8 @@ class TstMainWindowPages : public MainWindowTest
 private slots:
     void init();
     void cleanup();
+    void buttonsShowThePictureOfTheirState_data();
+    void buttonsShowThePictureOfTheirState();
     void extractOpensItsPage();
     void createOpensItsPage();
     void closedCreatePageIsFreed();
@@ -71,6 +74,59 @@ void TstMainWindowPages::cleanup()
     scenario.reset();
 }
 
+void TstMainWindowPages::buttonsShowThePictureOfTheirState_data()
+{
+    QTest::addColumn<QByteArray>("slot");
+    // Each button's name with that of its pictures and their numbers: normal, under the mouse,
+    // pressed and disabled.
+    QTest::addColumn<QStringList>("buttons");
+    QTest::newRow("home screen") << QByteArray()
+                                 << QStringList{"menu menu 1231",       "min osxmin 1234",
+                                                "close osxclose 1234",  "burn mburn 1231",
+                                                "extract Extract 1231", "create Create 1231",
+                                                "edit Edit 1231",       "copy Copy-Disc 1231",
+                                                "home Home 1231",       "help Help 1231"};
+    QTest::newRow("extract") << QByteArray("onExtract")
+                             << QStringList{"loadiso loadiso 1231", "back Back 1231",
+                                            "extract btnextract 1231"};
+    QTest::newRow("create") << QByteArray("onCreate")
+                            << QStringList{"addfile addfile 1231", "adddir adddir 1231",
+                                           "remove Remove 1231", "back Back 1231",
+                                           "create Create-IOS 1231"};
+    QTest::newRow("edit") << QByteArray("onEdit")
+                          << QStringList{"loadiso loadiso 1231", "add Add 1231",
+                                         "export_2 Export 1231", "rename Rename 1231",
+                                         "delete_2 Delete 1231", "new_2 New 1231",
+                                         "back backwhite 1231",  "save save 1231"};
+    QTest::newRow("burn") << QByteArray("onBurn")
+                          << QStringList{"browser Broswe 1231", "back backwhite 1231",
+                                         "burn burn 1231"};
+    QTest::newRow("copy disk") << QByteArray("onCopy")
+                               << QStringList{"eject refresh 1231", "browser filedialog 1231",
+                                              "back backwhite 1231", "start start 1231"};
+}
+
+void TstMainWindowPages::buttonsShowThePictureOfTheirState()
+{
+    QFETCH(QByteArray, slot);
+    QFETCH(QStringList, buttons);
+    const QWidget* owner = window.get();
+    if (!slot.isEmpty()) {
+        QVERIFY(QMetaObject::invokeMethod(window.get(), slot));
+        owner = window->findChild<ImageDialog*>(QString(), Qt::FindDirectChildrenOnly);
+    }
+    QVERIFY(owner);
+    QStringList seen;
+    for (auto* const each :
+         owner->findChildren<CImageButton*>(QString(), Qt::FindDirectChildrenOnly)) {
+        const QStringList named =
+            buttons.filter(QRegularExpression('^' + each->objectName() + ' '));
+        const QString picture = named.value(0).section(' ', 1, 1);
+        seen << each->objectName() + ' ' + picture + ' ' + shownPictures(each, picture);
+    }
+    QCOMPARE(seen, buttons);
+}
+
 void TstMainWindowPages::extractOpensItsPage()
 {
     openPage<CPage2>("extract");
@@ -87,7 +143,7 @@ void TstMainWindowPages::closedCreatePageIsFreed()
     const QPointer<CPage3> page = window->findChild<CPage3*>();
     UserMouse::click(page->findChild<QWidget*>("back"));
     QVERIFY(page.isNull() || !page->isVisible());
-    QTRY_VERIFY(page.isNull());
+    QTRY_VERIFY_WITH_TIMEOUT(page.isNull(), 30'000);
 }
 
 void TstMainWindowPages::extractTwiceOpensTwoPagesTheLaterOnTop()
@@ -145,7 +201,7 @@ void TstMainWindowPages::burnOpensItsPage()
 void TstMainWindowPages::copyOpensItsPage()
 {
     openPage<CPage5>("copy");
-    QTRY_VERIFY(!scenario->callsOf("drutil").isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(!scenario->callsOf("drutil").isEmpty(), 30'000);
 }
 
 void TstMainWindowPages::closedPageWithDrivesIsFreed_data()
@@ -163,7 +219,7 @@ void TstMainWindowPages::closedPageWithDrivesIsFreed()
     QVERIFY(opened);
     UserMouse::click(opened->findChild<QWidget*>("back"));
     QVERIFY(opened.isNull() || !opened->isVisible());
-    QTRY_VERIFY(opened.isNull());
+    QTRY_VERIFY_WITH_TIMEOUT(opened.isNull(), 30'000);
     QCOMPARE(QApplication::activeWindow(), window.get());
 }
 
@@ -191,9 +247,9 @@ void TstMainWindowPages::pagesWithDrivesHearOfADriveChange()
 {
     window->onBurn();
     window->onCopy();
-    QTRY_COMPARE(scenario->callsOf("drutil").size(), 2);
+    QTRY_COMPARE_WITH_TIMEOUT(scenario->callsOf("drutil").size(), 2, 30'000);
     emit window->sigdrivechange();
-    QTRY_COMPARE(scenario->callsOf("drutil").size(), 4);
+    QTRY_COMPARE_WITH_TIMEOUT(scenario->callsOf("drutil").size(), 4, 30'000);
 }
 
 KORVEX_TEST_MAIN(TstMainWindowPages)
