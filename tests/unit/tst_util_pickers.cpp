@@ -1,8 +1,9 @@
 // Copyright (c) 2026 The Korvex ISO Editor developers
 // SPDX-License-Identifier: MIT
 
+#include "foldertest.h"
 #include "modaldriver.h"
-#include "testcase.h"
+#include "testfiles.h"
 #include "testmain.h"
 #include "util.h"
 
@@ -14,12 +15,13 @@
 
 #include <functional>
 
-class TstUtilPickers : public TestCase
+class TstUtilPickers : public FolderTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void init();
+    void cleanup();
     void openFileReturnsTheFile();
     void openFilesReturnsTheFiles();
     void folderReturnsTheFolder();
@@ -39,24 +41,28 @@ private:
         bool readOnly;
     };
     static void check(const QFileDialog* dialog, const Expected& expected);
-    static QPushButton* accepting(const QWidget* dialog);
-    QString path(const char* name) const { return folder.filePath(name); }
+    // Types the text into the picker's field and presses its button.
+    static void accept(const QFileDialog* dialog, const QString& text);
     void chooseAll(QWidget* widget, int count);
-
-    QTemporaryDir folder;
 };
 
-void TstUtilPickers::initTestCase()
+void TstUtilPickers::init()
 {
-    QVERIFY(folder.isValid());
-    const QDir dir(folder.path());
+    FolderTest::init();
+    const QDir dir(folder->path());
     QVERIFY(dir.mkdir("inner one"));
     QVERIFY(dir.mkdir("inner two"));
-    QVERIFY(QFile(path("a.iso")).open(QFile::WriteOnly));
-    QVERIFY(QFile(path("b.iso")).open(QFile::WriteOnly));
+    writeFile(path("a.iso"), {});
+    writeFile(path("b.iso"), {});
     // The pickers start in the current folder or in the user's own.
-    QVERIFY(QDir::setCurrent(folder.path()));
+    QVERIFY(QDir::setCurrent(folder->path()));
     QVERIFY(qputenv("HOME", QFile::encodeName(path("inner one"))));
+}
+
+void TstUtilPickers::cleanup()
+{
+    QDir::setCurrent("/");
+    FolderTest::cleanup();
 }
 
 void TstUtilPickers::check(const QFileDialog* dialog, const Expected& expected)
@@ -67,20 +73,26 @@ void TstUtilPickers::check(const QFileDialog* dialog, const Expected& expected)
     QCOMPARE(dialog->testOption(QFileDialog::ReadOnly), expected.readOnly);
 }
 
-QPushButton* TstUtilPickers::accepting(const QWidget* dialog)
+void TstUtilPickers::accept(const QFileDialog* dialog, const QString& text)
 {
-    return dialog->findChild<QDialogButtonBox*>("buttonBox")->button(QDialogButtonBox::Open);
+    const bool saves = dialog->acceptMode() == QFileDialog::AcceptSave;
+    QPushButton* const button =
+        dialog->findChild<QDialogButtonBox*>("buttonBox")
+            ->button(saves ? QDialogButtonBox::Save : QDialogButtonBox::Open);
+    if (!text.isEmpty())
+        dialog->findChild<QLineEdit*>("fileNameEdit")->setText(text);
+    QVERIFY(button->isEnabled());
+    button->click();
 }
 
 void TstUtilPickers::openFileReturnsTheFile()
 {
     ModalDriver driver;
     driver.run("QFileDialog", [this](QWidget* widget) {
-        auto* dialog = static_cast<QFileDialog*>(widget);
+        const auto* dialog = static_cast<QFileDialog*>(widget);
         check(dialog,
               {"Open File", QDir::homePath(), {"All Files (*)", "ISO Files (*.iso)"}, true});
-        dialog->selectFile(path("a.iso"));
-        accepting(dialog)->click();
+        accept(dialog, path("a.iso"));
     });
     QCOMPARE(Util::GetOpenFileDialog(nullptr, "ISO Files (*.iso)"), path("a.iso"));
 }
@@ -91,9 +103,8 @@ void TstUtilPickers::openFilesReturnsTheFiles()
     driver.run("QFileDialog", [this](QWidget* widget) {
         auto* dialog = static_cast<QFileDialog*>(widget);
         check(dialog, {"Open Files", QDir::homePath(), {"Any Files(*.*)"}, true});
-        dialog->setDirectory(folder.path());
-        widget->findChild<QLineEdit*>("fileNameEdit")->setText("\"a.iso\" \"b.iso\"");
-        accepting(dialog)->click();
+        dialog->setDirectory(folder->path());
+        accept(dialog, "\"a.iso\" \"b.iso\"");
     });
     QStringList files = Util::GetOpenFilesDialog(nullptr);
     files.sort();
@@ -107,8 +118,7 @@ void TstUtilPickers::folderReturnsTheFolder()
         const auto* dialog = static_cast<QFileDialog*>(widget);
         check(dialog, {"Open Folder", ".", {"All Files (*)"}, false});
         QVERIFY(dialog->testOption(QFileDialog::ShowDirsOnly));
-        widget->findChild<QLineEdit*>("fileNameEdit")->setText(path("inner one"));
-        accepting(widget)->click();
+        accept(dialog, path("inner one"));
     });
     QCOMPARE(Util::GetDirDialog(nullptr), path("inner one"));
 }
@@ -120,9 +130,7 @@ void TstUtilPickers::saveReturnsTheNewPath()
         const auto* dialog = static_cast<QFileDialog*>(widget);
         check(dialog, {"Save File", ".", {"ISO Files (*.iso)"}, false});
         QCOMPARE(dialog->acceptMode(), QFileDialog::AcceptSave);
-        auto* box = widget->findChild<QDialogButtonBox*>("buttonBox");
-        widget->findChild<QLineEdit*>("fileNameEdit")->setText(path("new image.iso"));
-        box->button(QDialogButtonBox::Save)->click();
+        accept(dialog, path("new image.iso"));
     });
     QCOMPARE(Util::GetSaveDialog(nullptr, "ISO Files (*.iso)"), path("new image.iso"));
 }
@@ -130,12 +138,11 @@ void TstUtilPickers::saveReturnsTheNewPath()
 void TstUtilPickers::chooseAll(QWidget* widget, int count)
 {
     auto* dialog = static_cast<QFileDialog*>(widget);
-    dialog->setDirectory(folder.path());
+    dialog->setDirectory(folder->path());
     auto* list = dialog->findChild<QListView*>("listView");
-    QTRY_COMPARE(list->model()->rowCount(list->rootIndex()), count);
+    QTRY_COMPARE_WITH_TIMEOUT(list->model()->rowCount(list->rootIndex()), count, 30'000);
     list->selectAll();
-    QVERIFY(accepting(dialog)->isEnabled());
-    accepting(dialog)->click();
+    accept(dialog, {});
 }
 
 void TstUtilPickers::foldersReturnsTheSelection()
