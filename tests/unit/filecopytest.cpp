@@ -5,7 +5,11 @@
 
 #include "util.h"
 
+#include <QDir>
 #include <QTest>
+
+#include <algorithm>
+#include <unistd.h>
 
 void FileCopyTest::init()
 {
@@ -25,7 +29,18 @@ bool FileCopyTest::hasEmptied(CFileCopy& queue)
     return QTest::qWaitFor([&queue] { return !queue.HasTasks(); }, 30'000);
 }
 
-void FileCopyTest::giveTime()
+bool FileCopyTest::othersAreAsleep()
 {
-    QThread::msleep(50);
+    const auto isAsleep = [](const QString& thread) {
+        // The state follows the name, which stands in brackets.
+        const QByteArray facts = readFile("/proc/self/task/" + thread + "/stat");
+        return facts.isEmpty() || facts.mid(facts.lastIndexOf(')')).startsWith(") S");
+    };
+    const auto areAsleep = [&isAsleep] {
+        const QStringList threads = QDir("/proc/self/task").entryList(QDir::Dirs);
+        return std::all_of(threads.begin(), threads.end(), [&isAsleep](const QString& thread) {
+            return thread.startsWith('.') || thread.toInt() == ::getpid() || isAsleep(thread);
+        });
+    };
+    return QTest::qWaitFor(areAsleep, 30'000);
 }

@@ -18,8 +18,9 @@ protected:
     static bool hold(CFileCopy& queue, const HeldCopy& copy);
     // Whether everything that is queued has been dealt with in time.
     static bool hasEmptied(CFileCopy& queue);
-    // Time for a thread to do what it should not, or to fall asleep.
-    static void giveTime();
+    // Whether every other thread of this process has come to wait for something, or does so in
+    // time. A worker that has been given something to do is awake from that moment on.
+    static bool othersAreAsleep();
 
 protected slots:
     void init();

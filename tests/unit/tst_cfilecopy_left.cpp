@@ -221,16 +221,23 @@ void TstCFileCopyLeft::estimateComesFromTheRateSinceTheLastCall()
     constexpr int bytes = 2000 * 4096;
     HeldCopy first(path(""), 2 * bytes);
     QVERIFY(hold(queue, first));
+    // Between these the two looks at the clock are taken that the rate comes from.
+    const auto beforeFirst = quint64(std::clock());
     queue.EstimateSeconds();
-    const std::clock_t before = std::clock();
+    const auto afterFirst = quint64(std::clock());
     QVERIFY(first.letPass(bytes));
     QTRY_VERIFY_WITH_TIMEOUT(Util::copyedsize == bytes + first.capacity(), 30'000);
     letTheClockAdvance();
+    const auto beforeSecond = quint64(std::clock());
     const quint64 estimate = queue.EstimateSeconds();
-    const auto ticks = quint64(std::clock() - before);
-    QVERIFY(estimate > 0);
-    // As the rate is rounded down, what is left takes less than twice as long as half of it took.
-    QVERIFY2(estimate < 2 * 1000 * ticks, qPrintable(QString::number(estimate)));
+    const auto afterSecond = quint64(std::clock());
+    const auto left = quint64(first.size() - first.capacity() - bytes);
+    QCOMPARE(quint64(queue.GetLeftTaskBytes()), left);
+    // A thousand times the number of ticks, going by whole bytes per tick.
+    const auto estimateFor = [left](quint64 ticks) { return left * 1000 / (bytes / ticks); };
+    QVERIFY2(estimate >= estimateFor(beforeSecond - afterFirst) &&
+                 estimate <= estimateFor(afterSecond - beforeFirst),
+             qPrintable(QString::number(estimate)));
 }
 
 void TstCFileCopyLeft::estimateNeverFails()

@@ -232,7 +232,7 @@ void TstCFileCopyRemoval::replacementDropsWhatIsQueuedAndIsCarriedOut()
 void TstCFileCopyRemoval::replacementWakesAWorkerThatSleeps()
 {
     CFileCopy queue(nullptr);
-    giveTime();
+    QVERIFY(othersAreAsleep());
     queue.ReplaceTasks(path("a"), path("out/a"), CFileCopy::Copy);
     QVERIFY(hasEmptied(queue));
     QCOMPARE(entriesOf(path("out")), QStringList("a"));
