@@ -10,14 +10,9 @@
 const QSize ImageCtrlTest::small(20, 10);
 const QPoint ImageCtrlTest::corner(100, 100);
 
-void ImageCtrlTest::initTestCase()
-{
-    QVERIFY(folder.isValid());
-}
-
 void ImageCtrlTest::init()
 {
-    TestCase::init();
+    FolderTest::init();
     window = std::make_unique<QWidget>();
     window->setGeometry(50, 50, 400, 300);
     QPalette palette;
@@ -29,14 +24,14 @@ void ImageCtrlTest::init()
     button->move(corner);
     window->setFocus(); // else the button gets the focus when the window is activated
     window->show();
-    QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    QVERIFY(QTest::qWaitForWindowActive(window.get(), 30'000));
     UserMouse::moveAway(button);
 }
 
 void ImageCtrlTest::cleanup()
 {
     window.reset();
-    TestCase::cleanup();
+    FolderTest::cleanup();
 }
 
 QString ImageCtrlTest::picture(const QString& name, const QColor& colour, const QSize& size)
@@ -44,7 +39,7 @@ QString ImageCtrlTest::picture(const QString& name, const QColor& colour, const 
     QImage image(size, QImage::Format_ARGB32);
     image.fill(colour);
     // A name is used for one picture only: Qt remembers what it has loaded.
-    const QString path = folder.filePath(
+    const QString path = this->path(
         QString("%1-%2-%3x%4").arg(name, colour.name()).arg(size.width()).arg(size.height()));
     return image.save(path, "PNG") ? path : QString();
 }

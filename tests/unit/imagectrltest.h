@@ -4,20 +4,17 @@
 #pragma once
 
 #include "cimagebutton.h"
-#include "testcase.h"
-
-#include <QTemporaryDir>
+#include "foldertest.h"
 
 #include <memory>
 
 // What the tests of picture buttons share: a window with a button whose states are plain colours,
 // red, green, blue and yellow, on a light gray ground. The mouse rests beside the button.
-class ImageCtrlTest : public TestCase
+class ImageCtrlTest : public FolderTest
 {
     Q_OBJECT
 
 protected slots:
-    void initTestCase();
     void init();
     void cleanup();
 
@@ -30,7 +27,6 @@ protected:
     // The rectangle of all pixels near the given colour.
     static QRect boundsOf(const QImage& image, const QColor& colour);
 
-    QTemporaryDir folder;
     std::unique_ptr<QWidget> window;
     CImageButton* button = nullptr;
 };

@@ -39,7 +39,7 @@ QString TstCBaseImageCtrl::strip(int frames)
     for (int i = 0; i < frames; ++i)
         painter.fillRect(i * small.width(), 0, small.width(), small.height(), colours[i]);
     painter.end();
-    const QString path = folder.filePath(QString("strip%1").arg(frames));
+    const QString path = this->path(QString("strip%1").arg(frames));
     return image.save(path, "PNG") ? path : QString();
 }
 
@@ -89,8 +89,8 @@ void TstCBaseImageCtrl::disabledWithoutDisabledPictureShowsTheNormalOne()
 
 void TstCBaseImageCtrl::stateWithoutPicturePaintsNothing()
 {
-    button->SetBackGround(picture("n", Qt::red), folder.filePath("missing"), QString(), QString(),
-                          QString(), QString(), 3);
+    button->SetBackGround(picture("n", Qt::red), path("missing"), QString(), QString(), QString(),
+                          QString(), 3);
     UserMouse::move(button, QPoint(5, 5));
     QCOMPARE(shown(), QColor(250, 250, 250));
 }
@@ -196,10 +196,9 @@ void TstCBaseImageCtrl::keepsItsSizeWithoutAutoSizeUntilResize()
 
 void TstCBaseImageCtrl::missingPictureKeepsTheSize()
 {
-    button->SetBackGround(folder.filePath("missing"), QString(), QString(), QString(), "Text",
-                          QString(), 0);
+    button->SetBackGround(path("missing"), QString(), QString(), QString(), "Text", QString(), 0);
     QCOMPARE(button->size(), small);
-    button->SetBackGround(folder.filePath("missing"), 4, QString(), 0);
+    button->SetBackGround(path("missing"), 4, QString(), 0);
     QCOMPARE(button->size(), small);
 }
 

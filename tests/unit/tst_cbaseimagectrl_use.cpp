@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "imagectrltest.h"
+#include "onscreen.h"
 #include "receiver.h"
 #include "testmain.h"
 #include "usermouse.h"
@@ -9,6 +10,7 @@
 #include <QAccessible>
 #include <QPointer>
 #include <QSignalSpy>
+#include <QWindow>
 
 class TstCBaseImageCtrlUse : public ImageCtrlTest
 {
@@ -23,6 +25,8 @@ private slots:
     void disabledIgnoresTheMouse();
     void aReceiverMayDeleteTheButton();
     void mouseIsOnlyInWhileItIsOverTheControl();
+    void screenFollowsTheMouse();
+    void screenFollowsTheButtonWhileItIsDragged();
     void keysClickOnce_data();
     void keysClickOnce();
     void keyHeldDownIsOneClick();
@@ -113,6 +117,36 @@ void TstCBaseImageCtrlUse::mouseIsOnlyInWhileItIsOverTheControl()
     QEvent leave(QEvent::Leave); // as when another window covers the button
     QApplication::sendEvent(button, &leave);
     QVERIFY(!button->isMouseIn());
+}
+
+// Each of these is what one event has to make the control paint itself for.
+void TstCBaseImageCtrlUse::screenFollowsTheMouse()
+{
+    const QPoint inside(5, 5);
+    QTRY_COMPARE_WITH_TIMEOUT(onScreen(button, inside), QColor(Qt::red), 30'000);
+    UserMouse::move(button, inside); // enters
+    QTRY_COMPARE_WITH_TIMEOUT(onScreen(button, inside), QColor(Qt::green), 30'000);
+    UserMouse::moveAway(button); // leaves
+    QTRY_COMPARE_WITH_TIMEOUT(onScreen(button, inside), QColor(Qt::red), 30'000);
+    UserMouse::move(button, inside);
+    QTRY_COMPARE_WITH_TIMEOUT(onScreen(button, inside), QColor(Qt::green), 30'000);
+    QTest::mousePress(window->windowHandle(), Qt::LeftButton, Qt::NoModifier, corner + inside);
+    QTRY_COMPARE_WITH_TIMEOUT(onScreen(button, inside), QColor(Qt::blue), 30'000);
+    QTest::mouseRelease(window->windowHandle(), Qt::LeftButton, Qt::NoModifier, corner + inside);
+    QTRY_COMPARE_WITH_TIMEOUT(onScreen(button, inside), QColor(Qt::green), 30'000);
+}
+
+void TstCBaseImageCtrlUse::screenFollowsTheButtonWhileItIsDragged()
+{
+    const QPoint inside(5, 5);
+    UserMouse::press(button, inside);
+    QTRY_COMPARE_WITH_TIMEOUT(onScreen(button, inside), QColor(Qt::blue), 30'000);
+    // The held mouse neither leaves nor enters, it only moves.
+    UserMouse::move(button, {-30, 5});
+    QTRY_COMPARE_WITH_TIMEOUT(onScreen(button, inside), QColor(Qt::red), 30'000);
+    UserMouse::move(button, inside);
+    QTRY_COMPARE_WITH_TIMEOUT(onScreen(button, inside), QColor(Qt::blue), 30'000);
+    UserMouse::release(button, inside);
 }
 
 void TstCBaseImageCtrlUse::keysClickOnce_data()

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "clineedit.h"
-#include "testcase.h"
+#include "foldertest.h"
+#include "onscreen.h"
 #include "testmain.h"
 #include "usermouse.h"
 
@@ -10,18 +11,18 @@
 
 #include <memory>
 
-class TstCLineEdit : public TestCase
+class TstCLineEdit : public FolderTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
     void init();
     void cleanup();
     void squareFollowsThePosition_data();
     void squareFollowsThePosition();
     void focusDecidesBetweenTwoPictures();
     void thirdPictureMakesAButton();
+    void screenFollowsTheMouse();
     void noPictureLeavesThePlainEdit();
     void clickOnThePictureIsAnnounced();
     void releaseOutsideThePictureIsNotAnnounced();
@@ -30,27 +31,21 @@ private slots:
     void keysReachTheEdit();
 
 private:
-    QString picture(const QColor& colour) const { return folder.filePath(colour.name().mid(1)); }
+    QString picture(const QColor& colour) const { return path(colour.name().mid(1)); }
     QColor shown() const;
 
-    QTemporaryDir folder;
     std::unique_ptr<QWidget> window;
     CLineEdit* edit = nullptr;
 };
 
-void TstCLineEdit::initTestCase()
+void TstCLineEdit::init()
 {
-    QVERIFY(folder.isValid());
+    FolderTest::init();
     for (const QColor colour : {Qt::red, Qt::green, Qt::blue}) {
         QImage image(16, 16, QImage::Format_ARGB32);
         image.fill(colour);
         QVERIFY(image.save(picture(colour), "PNG"));
     }
-}
-
-void TstCLineEdit::init()
-{
-    TestCase::init();
     window = std::make_unique<QWidget>();
     window->setGeometry(50, 50, 300, 100);
     window->setFocus(); // not on the edit yet
@@ -58,14 +53,14 @@ void TstCLineEdit::init()
     edit->setGeometry(20, 20, 200, 26);
     edit->SetImage(picture(Qt::red), picture(Qt::green), QString(), QPoint(-30, 3));
     window->show();
-    QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    QVERIFY(QTest::qWaitForWindowActive(window.get(), 30'000));
     UserMouse::moveAway(edit);
 }
 
 void TstCLineEdit::cleanup()
 {
     window.reset();
-    TestCase::cleanup();
+    FolderTest::cleanup();
 }
 
 QColor TstCLineEdit::shown() const
@@ -116,6 +111,25 @@ void TstCLineEdit::thirdPictureMakesAButton()
     const QColor held = shown();
     UserMouse::release(edit, inside);
     QCOMPARE(held, QColor(Qt::blue));
+}
+
+// Each of these is what one event has to make the edit paint itself for.
+void TstCLineEdit::screenFollowsTheMouse()
+{
+    edit->SetImage(picture(Qt::red), picture(Qt::green), picture(Qt::blue), QPoint(-30, 3));
+    const QPoint inside = edit->getRect().center();
+    const QPoint beside(50, 10);
+    QTRY_COMPARE_WITH_TIMEOUT(onScreen(edit, inside), QColor(Qt::red), 30'000);
+    UserMouse::move(edit, beside);
+    UserMouse::move(edit, inside); // moves
+    QTRY_COMPARE_WITH_TIMEOUT(onScreen(edit, inside), QColor(Qt::green), 30'000);
+    UserMouse::moveAway(edit); // leaves
+    QTRY_COMPARE_WITH_TIMEOUT(onScreen(edit, inside), QColor(Qt::red), 30'000);
+    UserMouse::move(edit, inside);
+    UserMouse::press(edit, inside);
+    QTRY_COMPARE_WITH_TIMEOUT(onScreen(edit, inside), QColor(Qt::blue), 30'000);
+    UserMouse::release(edit, inside);
+    QTRY_COMPARE_WITH_TIMEOUT(onScreen(edit, inside), QColor(Qt::green), 30'000);
 }
 
 void TstCLineEdit::noPictureLeavesThePlainEdit()

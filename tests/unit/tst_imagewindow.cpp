@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "cbasemainwindow.h"
+#include "foldertest.h"
 #include "imagedialog.h"
-#include "testcase.h"
 #include "testmain.h"
 
 #include <QSignalSpy>
@@ -11,13 +11,35 @@
 #include <functional>
 #include <memory>
 
+// Counts how often a widget paints itself, from the moment on at which it has nothing left to
+// paint.
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget* widget)
+    {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+        widget->installEventFilter(this);
+    }
+
+    int paints = 0;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        paints += event->type() == QEvent::Paint;
+        return false;
+    }
+};
+
 // Both window bases get their behaviour from the template, so both run every test.
-class TstImageWindow : public TestCase
+class TstImageWindow : public FolderTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void init();
     void looksLikeNoSystemWindow_data() { windows(); }
     void looksLikeNoSystemWindow();
     void dialogIsModalUnlessToldOtherwise();
@@ -44,6 +66,8 @@ private slots:
     void showingAndHidingAnnounceTheVisibility();
     void activationAnnouncesTheVisibility_data() { windows(); }
     void activationAnnouncesTheVisibility();
+    void showingPaintsTheWindow_data() { windows(); }
+    void showingPaintsTheWindow();
     void minimisesOnRequest_data() { windows(); }
     void minimisesOnRequest();
 
@@ -64,20 +88,19 @@ private:
     static void mouse(QWidget* widget, QEvent::Type type, const QPointF& screen,
                       Qt::MouseButtons held);
 
-    QTemporaryDir folder;
     QString red;
     QString clear;
 };
 
-void TstImageWindow::initTestCase()
+void TstImageWindow::init()
 {
-    QVERIFY(folder.isValid());
+    FolderTest::init();
     QImage image(120, 80, QImage::Format_ARGB32);
     image.fill(Qt::red);
-    red = folder.filePath("red");
+    red = path("red");
     QVERIFY(image.save(red, "PNG"));
     image.fill(Qt::transparent);
-    clear = folder.filePath("clear");
+    clear = path("clear");
     QVERIFY(image.save(clear, "PNG"));
 }
 
@@ -258,7 +281,7 @@ void TstImageWindow::showingAndHidingAnnounceTheVisibility()
     window.widget->show();
     QVERIFY(spy.count() >= 1);
     QCOMPARE(spy.first().first().toBool(), true);
-    QVERIFY(QTest::qWaitForWindowActive(window.widget.get()));
+    QVERIFY(QTest::qWaitForWindowActive(window.widget.get(), 30'000));
     spy.clear();
     window.widget->hide();
     QCOMPARE(spy.first().first().toBool(), false);
@@ -268,28 +291,41 @@ void TstImageWindow::activationAnnouncesTheVisibility()
 {
     const Window window = create();
     window.widget->show();
-    QVERIFY(QTest::qWaitForWindowActive(window.widget.get()));
+    QVERIFY(QTest::qWaitForWindowActive(window.widget.get(), 30'000));
     QWidget other;
     other.show();
     other.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QVERIFY(QTest::qWaitForWindowActive(&other, 30'000));
     QSignalSpy spy(window.widget.get(), SIGNAL(sigvisable(bool)));
     window.widget->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(window.widget.get()));
+    QVERIFY(QTest::qWaitForWindowActive(window.widget.get(), 30'000));
     QVERIFY(spy.count() >= 1);
     QCOMPARE(spy.last().first().toBool(), true);
     // Becoming inactive is no news.
     spy.clear();
     other.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QVERIFY(QTest::qWaitForWindowActive(&other, 30'000));
     QCOMPARE(spy.count(), 0);
+}
+
+void TstImageWindow::showingPaintsTheWindow()
+{
+    const Window window = create();
+    window.setBackGround(red);
+    window.widget->show();
+    QVERIFY(QTest::qWaitForWindowActive(window.widget.get(), 30'000));
+    PaintCounter counter(window.widget.get());
+    // As the window system tells when a minimised window comes back.
+    QShowEvent shown;
+    QApplication::sendEvent(window.widget.get(), &shown);
+    QTRY_VERIFY_WITH_TIMEOUT(counter.paints > 0, 30'000);
 }
 
 void TstImageWindow::minimisesOnRequest()
 {
     const Window window = create();
     window.widget->show();
-    QVERIFY(QTest::qWaitForWindowActive(window.widget.get()));
+    QVERIFY(QTest::qWaitForWindowActive(window.widget.get(), 30'000));
     QVERIFY(QMetaObject::invokeMethod(window.widget.get(), "slot_minWindow"));
     QVERIFY(window.widget->isMinimized());
 }
