@@ -22,7 +22,7 @@ void MainWindowTest::init()
     openedAddress.clear();
     window = std::make_unique<MainWindow>(nullptr);
     window->show();
-    QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    QVERIFY(QTest::qWaitForWindowActive(window.get(), 30'000));
 }
 
 void MainWindowTest::cleanup()

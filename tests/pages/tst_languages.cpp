@@ -56,7 +56,7 @@ void TstLanguages::init()
     golbalLangue = 0;
     window = std::make_unique<MainWindow>(nullptr);
     window->show();
-    QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    QVERIFY(QTest::qWaitForWindowActive(window.get(), 30'000));
 }
 
 void TstLanguages::cleanup()
@@ -198,6 +198,8 @@ void TstLanguages::localeChoosesTheLanguage_data()
     QTest::newRow("Dutch") << "nl_NL" << 151 << "Extract nl";
     QTest::newRow("Frisian of the Netherlands, by its country") << "fy_NL" << 151 << "Extract nl";
     QTest::newRow("Dutch of Belgium, which is English") << "nl_BE" << 0 << "Extract en";
+    QTest::newRow("Syriac, a language with the number of that country")
+        << "syr_IQ" << 0 << "Extract en";
     QTest::newRow("Swedish") << "sv_SE" << 114 << "Extract sv";
     QTest::newRow("Swedish of Finland") << "sv_FI" << 114 << "Extract sv";
     QTest::newRow("Korean, which is English") << "ko_KR" << 0 << "Extract en";

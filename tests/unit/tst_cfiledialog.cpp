@@ -76,10 +76,11 @@ void TstCFileDialog::open(bool withFiles)
     dialog->setViewMode(QFileDialog::List);
     dialog->setDirectory(folder->path());
     dialog->show();
-    QVERIFY(QTest::qWaitForWindowActive(dialog.get()));
+    QVERIFY(QTest::qWaitForWindowActive(dialog.get(), 30'000));
     list = dialog->findChild<QListView*>("listView");
     // The listing arrives from another thread.
-    QTRY_COMPARE(list->model()->rowCount(list->rootIndex()), withFiles ? 6 : 4);
+    QTRY_COMPARE_WITH_TIMEOUT(list->model()->rowCount(list->rootIndex()), withFiles ? 6 : 4,
+                              30'000);
 }
 
 QModelIndex TstCFileDialog::row(const QString& name) const
@@ -198,10 +199,10 @@ void TstCFileDialog::doubleClickEntersAFolder()
     const QPoint centre = list->visualRect(row("inner")).center();
     QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, centre);
     QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, centre);
-    QTRY_COMPARE(dialog->directory().canonicalPath(),
-                 QFileInfo(folder->filePath("inner")).canonicalFilePath());
+    QTRY_COMPARE_WITH_TIMEOUT(dialog->directory().canonicalPath(),
+                              QFileInfo(folder->filePath("inner")).canonicalFilePath(), 30'000);
     QVERIFY(dialog->isVisible());
-    QTRY_VERIFY(row("deep").isValid());
+    QTRY_VERIFY_WITH_TIMEOUT(row("deep").isValid(), 30'000);
     select({"deep"});
     UserMouse::click(button(QDialogButtonBox::Open));
     QCOMPARE(dialog->selectedFiles(), paths({"inner/deep"}));
@@ -214,7 +215,7 @@ void TstCFileDialog::doubleClickOnAFileChoosesIt()
     const QPoint centre = list->visualRect(row("a.txt")).center();
     QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, centre);
     QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, centre);
-    QTRY_VERIFY(dialog->isHidden());
+    QTRY_VERIFY_WITH_TIMEOUT(dialog->isHidden(), 30'000);
     QCOMPARE(dialog->result(), int(QDialog::Accepted));
     QCOMPARE(dialog->selectedFiles(), paths({"a.txt"}));
 }

@@ -58,7 +58,7 @@ void TstCMyComboBox::init()
     box = std::make_unique<CMyComboBox>();
     box->addItems({"one", "two"});
     box->show();
-    QVERIFY(QTest::qWaitForWindowActive(box.get()));
+    QVERIFY(QTest::qWaitForWindowActive(box.get(), 30'000));
 }
 
 void TstCMyComboBox::cleanup()
@@ -159,9 +159,9 @@ void TstCMyComboBox::shortTextIsPaintedAsAnyBoxPaintsIt()
     plain.addItem("two");
     plain.resize(box->size());
     plain.show();
-    QVERIFY(QTest::qWaitForWindowActive(&plain));
+    QVERIFY(QTest::qWaitForWindowActive(&plain, 30'000));
     box->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(box.get()));
+    QVERIFY(QTest::qWaitForWindowActive(box.get(), 30'000));
     plain.clearFocus();
     box->clearFocus();
     QCOMPARE(painted("two"), plain.grab().toImage());
@@ -206,13 +206,13 @@ void TstCMyComboBox::shortTextHasNoToolTip()
     // Nor does it keep the one that it had.
     painted("two");
     rest();
-    QTRY_COMPARE(QToolTip::text(), QString());
+    QTRY_COMPARE_WITH_TIMEOUT(QToolTip::text(), QString(), 30'000);
     painted(longText);
     rest();
     QCOMPARE(QToolTip::text(), longText);
     box->resize(800, 26);
     rest();
-    QTRY_COMPARE(QToolTip::text(), QString());
+    QTRY_COMPARE_WITH_TIMEOUT(QToolTip::text(), QString(), 30'000);
 }
 
 void TstCMyComboBox::emptyBoxHasNoToolTip()
@@ -221,7 +221,7 @@ void TstCMyComboBox::emptyBoxHasNoToolTip()
     rest();
     box->clear();
     rest();
-    QTRY_COMPARE(QToolTip::text(), QString());
+    QTRY_COMPARE_WITH_TIMEOUT(QToolTip::text(), QString(), 30'000);
 }
 
 void TstCMyComboBox::openListIsAsWideAsItsLongestText()

@@ -33,7 +33,7 @@ void TstCMyTreeWidget::init()
     for (const char* name : {"one", "two", "three"})
         tree->addTopLevelItem(new QTreeWidgetItem({name}));
     tree->show();
-    QVERIFY(QTest::qWaitForWindowExposed(tree.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(tree.get(), 30'000));
 }
 
 void TstCMyTreeWidget::click(QPoint position, Qt::KeyboardModifiers modifiers)

@@ -145,7 +145,7 @@ void TstCommDialog::tabGoesFromOkToTheSecondButtonToClose()
 {
     CommDialog dialog(nullptr);
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    QVERIFY(QTest::qWaitForWindowActive(&dialog, 30'000));
     for (const char* name : {"btnok", "btncancel", "btnclose", "btnok"}) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         QCOMPARE(QApplication::focusWidget()->objectName(), QString(name));
@@ -286,7 +286,7 @@ void TstCommDialog::descendantsOverrideWhatTheButtonsDo()
 {
     OverridingDialog dialog;
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    QVERIFY(QTest::qWaitForWindowActive(&dialog, 30'000));
     for (const char* name : {"btncancel", "btnclose", "btnok"})
         UserMouse::click(part(dialog, name));
     QCOMPARE(dialog.pressed, QStringList({"cancel", "close", "ok"}));

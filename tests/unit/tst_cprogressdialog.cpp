@@ -49,7 +49,7 @@ private:
     static void show(CProgressDialog& dialog)
     {
         dialog.show();
-        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        QVERIFY(QTest::qWaitForWindowActive(&dialog, 30'000));
     }
 };
 

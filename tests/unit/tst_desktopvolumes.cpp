@@ -109,6 +109,7 @@ void TstDesktopVolumes::pathWithBlanksGetsALink()
 
 void TstDesktopVolumes::fileSystemMayAppearLate()
 {
+    volumes->setPatience(60'000);
     service->fail("Mount", tooEarly);
     QCOMPARE(volumes->mountImage(folder->filePath("x.iso")).error, QString());
     QCOMPARE(changes().filter("Filesystem.Mount").size(), tooEarly.size() + 1);

@@ -66,12 +66,15 @@ void TstDriveScenarioActions::floodOnBothChannelsIsWhole()
 
 void TstDriveScenarioActions::hangingToolCanBeKilledAndLeavesNoEnd()
 {
-    scenario->on("hdiutil", {}, {"ignore-term", "out ready", "sleep 60000"});
+    scenario->on("hdiutil", {},
+                 {"ignore-term", scenario->holding("gate"), "out after", "sleep 60000"});
     QProcess process;
     process.start("hdiutil", QStringList());
-    QVERIFY(process.waitForReadyRead());
+    QVERIFY(scenario->isHeld("gate"));
     process.terminate();
-    QVERIFY(!process.waitForFinished(200));
+    scenario->release("gate");
+    QVERIFY(process.waitForReadyRead());
+    QCOMPARE(process.readAllStandardOutput(), QByteArray("after"));
     process.kill();
     QVERIFY(process.waitForFinished());
     QCOMPARE(scenario->commands(), (QList<QStringList>{{"hdiutil"}}));
@@ -80,15 +83,21 @@ void TstDriveScenarioActions::hangingToolCanBeKilledAndLeavesNoEnd()
 
 void TstDriveScenarioActions::heldCallGoesOnWhenReleased()
 {
+    const QTemporaryDir folder;
+    const QString given = folder.filePath("given");
+    const QString taken = folder.filePath("taken");
     scenario->on("hdiutil", {},
-                 {"out before ", scenario->holding("a gate"), "out after", "exit 0"});
+                 {"out before ", scenario->holding("a gate"), DriveScenario::copying(given, taken),
+                  "out after", "exit 0"});
     QProcess process;
     process.start("hdiutil", QStringList());
-    QVERIFY(process.waitForReadyRead());
-    QVERIFY(!process.waitForFinished(100));
+    QVERIFY(scenario->isHeld("a gate"));
+    // It could not do what follows before this.
+    writeFile(given, "x");
     scenario->release("a gate");
     QVERIFY(process.waitForFinished());
     QCOMPARE(process.readAllStandardOutput(), QByteArray("before after"));
+    QCOMPARE(readFile(taken), QByteArray("x"));
 }
 
 void TstDriveScenarioActions::heldCallEndsWithItsScenario()

@@ -46,7 +46,7 @@ void TstFollowedProgram::lineComesBeforeTheEnd()
     const QString sign = tools.filePath("sign");
     // It ends only when the line has been taken.
     tools.add("tool", "echo go; i=0; while [ ! -e '" + sign.toUtf8() +
-                          "' ] && [ $i -lt 200 ]; do i=$((i+1)); sleep 0.05; done; "
+                          "' ] && [ $i -lt 3000 ]; do i=$((i+1)); sleep 0.01; done; "
                           "[ -e '" +
                           sign.toUtf8() + "' ]");
     QCOMPARE(followProgram("tool", {}, [&sign](const QString&) { writeFile(sign, ""); }),

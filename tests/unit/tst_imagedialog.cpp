@@ -25,7 +25,7 @@ void TstImageDialog::dialogComesUpOverTheWindowInUse()
     inUse.setGeometry(150, 120, 500, 400);
     inUse.show();
     inUse.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&inUse));
+    QVERIFY(QTest::qWaitForWindowActive(&inUse, 30'000));
     ImageDialog dialog;
     dialog.setFixedSize(300, 100);
     dialog.show();
@@ -34,7 +34,7 @@ void TstImageDialog::dialogComesUpOverTheWindowInUse()
     // Again after the window has been moved.
     dialog.hide();
     inUse.move(250, 200);
-    QVERIFY(QTest::qWaitForWindowActive(&inUse));
+    QVERIFY(QTest::qWaitForWindowActive(&inUse, 30'000));
     dialog.show();
     QCOMPARE(dialog.frameGeometry().center(), inUse.frameGeometry().center());
 }
@@ -64,7 +64,7 @@ void TstImageDialog::tabStaysInsideAPage()
     QPushButton second("second", page);
     window.show();
     page->show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(QTest::qWaitForWindowActive(&window, 30'000));
     page->setFocus();
     const auto focusAfter = [](Qt::Key key) {
         QTest::keyClick(QApplication::focusWidget(), key);

@@ -69,7 +69,7 @@ void TstNoFocusDelegate::cellThatIsCutShowsItsWholeTextAsAToolTip()
     table.setItem(0, 1, new QTableWidgetItem("b"));
     table.resize(400, 100);
     table.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&table));
+    QVERIFY(QTest::qWaitForWindowExposed(&table, 30'000));
     const auto toolTipOver = [&table](int column) {
         QToolTip::hideText();
         const QPoint place =
@@ -80,9 +80,9 @@ void TstNoFocusDelegate::cellThatIsCutShowsItsWholeTextAsAToolTip()
     };
     QCOMPARE(toolTipOver(0),
              QString("<span>a &lt;b&gt;long&lt;/b&gt; name that does not fit its column</span>"));
-    QTRY_COMPARE(toolTipOver(1), QString());
+    QTRY_COMPARE_WITH_TIMEOUT(toolTipOver(1), QString(), 30'000);
     table.setColumnWidth(0, 800);
-    QTRY_COMPARE(toolTipOver(0), QString());
+    QTRY_COMPARE_WITH_TIMEOUT(toolTipOver(0), QString(), 30'000);
 }
 
 KORVEX_TEST_MAIN(TstNoFocusDelegate)

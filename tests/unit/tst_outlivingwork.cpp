@@ -42,7 +42,7 @@ void TstOutlivingWork::killWhenBegun(const std::function<int()>& tool) const
     if (process == 0)
         ::_exit(tool());
     QVERIFY(process > 0);
-    QTRY_VERIFY(QFile::exists(path("begun")));
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path("begun")), 30'000);
     QCOMPARE(::kill(process, SIGKILL), 0);
     QCOMPARE(::waitpid(process, nullptr, 0), process);
     writeFile(path("killed"), "");
@@ -83,7 +83,7 @@ void TstOutlivingWork::workIsAwaitedUntilTheToolIsKilled()
             return 0;
         });
     });
-    QTRY_COMPARE(readFile(path("after")), QByteArray("abandoned"));
+    QTRY_COMPARE_WITH_TIMEOUT(readFile(path("after")), QByteArray("abandoned"), 30'000);
     QCOMPARE(readFile(path("begun")), QByteArray("awaited"));
 }
 
@@ -97,8 +97,8 @@ void TstOutlivingWork::imageMountedForNobodyIsUnmounted()
     writeFile(path("x.iso"), "x");
     RootVolumes volumes(path("media"), path("images"));
     killWhenBegun([&] { return hdiutilTool({"mount", path("x.iso")}, volumes); });
-    QTRY_COMPARE(tools.calls().size(), 2);
-    QTRY_COMPARE(QDir(path("images")).entryList({"image-*"}), QStringList());
+    QTRY_COMPARE_WITH_TIMEOUT(tools.calls().size(), 2, 30'000);
+    QTRY_COMPARE_WITH_TIMEOUT(QDir(path("images")).entryList({"image-*"}), QStringList(), 30'000);
     const QString mountPoint = tools.calls().first().section('|', -1);
     QCOMPARE(tools.calls().last(), "umount|--lazy|--|" + mountPoint);
 }

@@ -97,7 +97,7 @@ void TstPasswordPrompt::everyTextFits()
     const PromptTexts texts = PromptTexts::of(code);
     PasswordPrompt prompt(texts);
     prompt.show();
-    QVERIFY(QTest::qWaitForWindowActive(&prompt));
+    QVERIFY(QTest::qWaitForWindowActive(&prompt, 30'000));
     QTest::keyClicks(field(prompt), "secret");
     photograph(&prompt, code);
 
@@ -239,21 +239,21 @@ void TstPasswordPrompt::windowStandsAboveOthersWithTheFieldInFocus()
 {
     QWidget other;
     other.show();
-    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QVERIFY(QTest::qWaitForWindowActive(&other, 30'000));
     PasswordPrompt prompt(PromptTexts::of("en"));
     prompt.show();
-    QVERIFY(QTest::qWaitForWindowActive(&prompt));
+    QVERIFY(QTest::qWaitForWindowActive(&prompt, 30'000));
     QVERIFY(prompt.windowFlags() & Qt::WindowStaysOnTopHint);
     QVERIFY(prompt.windowFlags() & Qt::FramelessWindowHint);
     QCOMPARE(prompt.focusWidget(), field(prompt));
-    QTRY_VERIFY(field(prompt)->hasFocus());
+    QTRY_VERIFY_WITH_TIMEOUT(field(prompt)->hasFocus(), 30'000);
 }
 
 void TstPasswordPrompt::tabGoesFromTheFieldToTheButtons()
 {
     PasswordPrompt prompt(PromptTexts::of("en"));
     prompt.show();
-    QVERIFY(QTest::qWaitForWindowActive(&prompt));
+    QVERIFY(QTest::qWaitForWindowActive(&prompt, 30'000));
     for (const char* const name : {"btnok", "btncancel", "btnclose", "passwordEdit"}) {
         QTest::keyClick(prompt.focusWidget(), Qt::Key_Tab);
         QCOMPARE(prompt.focusWidget()->objectName(), QString(name));

@@ -33,8 +33,11 @@ private slots:
     void copyThatNobodyHearsLeavesNothing();
 
 private:
-    // Of a disc in the folder to an image that exists there; arguments for "hdiutil".
-    static QStringList copyOfSomeSeconds(const QTemporaryDir& folder);
+    // A tool like the one that is shipped, with an authoring tool beside it that does not end by
+    // itself in the time of a test; the tool's path.
+    static QString toolOfLongCopies(const QTemporaryDir& folder);
+    // Of a disc in the folder to an image that exists there.
+    static QStringList longCopy(const QTemporaryDir& folder);
     static void theOldImageAloneIsLeft(const QTemporaryDir& folder);
     // Runs a tool by its name; both channels are in output, the exit code is returned.
     int run(const QString& name, const QStringList& arguments);
@@ -137,12 +140,27 @@ void TstPlatformTool::othersCannotWriteWhatIsMade()
     QVERIFY(!QFileInfo(image).permission(QFile::WriteGroup));
 }
 
-QStringList TstPlatformTool::copyOfSomeSeconds(const QTemporaryDir& folder)
+QString TstPlatformTool::toolOfLongCopies(const QTemporaryDir& folder)
+{
+    // Rising progress, so that whoever follows it always has something to tell; it ends where
+    // nobody reads that.
+    writeScript(folder.filePath("cdrtools/mkisofs"),
+                "while [ \"$1\" != -o ]; do shift; done\n"
+                "echo x >\"$2\"\n"
+                "i=1000\n"
+                "while [ $i -lt 9999 ] && printf ' %d.%d%% done, estimate finish x\\n' "
+                "$((i / 100)) $((i % 100)); do i=$((i + 1)); sleep 0.02; done 2>&1\n");
+    const QString tool = folder.filePath("platform-tools/hdiutil");
+    if (!QDir().mkpath(folder.filePath("platform-tools")) ||
+        !QFile::copy(QString(KORVEX_PLATFORM_TOOLS) + "/hdiutil", tool))
+        qFatal("cannot copy the tool");
+    return tool;
+}
+
+QStringList TstPlatformTool::longCopy(const QTemporaryDir& folder)
 {
     writeFile(folder.filePath("out/x.iso"), "old");
-    writeFile(folder.filePath("disc/large"), "x");
-    // Sparse.
-    QFile::resize(folder.filePath("disc/large"), 3LL << 30);
+    writeFile(folder.filePath("disc/file"), "x");
     return imageOfDiscArguments(folder.filePath("out/x.iso"), folder.filePath("disc"));
 }
 
@@ -167,8 +185,8 @@ void TstPlatformTool::endedCopyLeavesNothing()
     // Whoever runs the tests in the background may ignore it, which the tool would inherit.
     std::signal(signal, SIG_DFL);
     QProcess process;
-    process.start(QString(KORVEX_PLATFORM_TOOLS) + "/hdiutil", copyOfSomeSeconds(folder));
-    QTRY_VERIFY(QFile::exists(folder.filePath("out/x.iso.unfinished")));
+    process.start(toolOfLongCopies(folder), longCopy(folder));
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(folder.filePath("out/x.iso.unfinished")), 30'000);
     QCOMPARE(::kill(pid_t(process.processId()), signal), 0);
     QVERIFY(process.waitForFinished(-1));
     QCOMPARE(process.exitStatus(), QProcess::CrashExit);
@@ -179,9 +197,9 @@ void TstPlatformTool::endedCopyLeavesNothing()
 void TstPlatformTool::copyThatNobodyHearsLeavesNothing()
 {
     const QTemporaryDir folder;
-    const QString script = "set -o pipefail; '" KORVEX_PLATFORM_TOOLS "/hdiutil' \"$@\" | head -1";
+    const QString script = "set -o pipefail; '" + toolOfLongCopies(folder) + "' \"$@\" | head -1";
     QProcess shell;
-    shell.start("bash", QStringList{"-c", script, "bash"} + copyOfSomeSeconds(folder));
+    shell.start("bash", QStringList{"-c", script, "bash"} + longCopy(folder));
     QVERIFY(shell.waitForFinished(-1));
     QCOMPARE(shell.readAllStandardOutput(), QByteArray("Creating hybrid image...\n"));
     QCOMPARE(shell.exitCode(), 128 + SIGPIPE);

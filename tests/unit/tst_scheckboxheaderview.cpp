@@ -45,7 +45,7 @@ void TstSCheckBoxHeaderView::init()
     header = install(0);
     table->resize(400, 200);
     table->show();
-    QVERIFY(QTest::qWaitForWindowExposed(table.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(table.get(), 30'000));
 }
 
 void TstSCheckBoxHeaderView::cleanup()

@@ -67,7 +67,7 @@ void TstStyleSheet::isAccepted()
     // A sheet that cannot be parsed ends in a Qt warning, which fails the function.
     qApp->setStyleSheet(contents(":/qss.qss"));
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(QTest::qWaitForWindowExposed(&window, 30'000));
     const QImage shown = window.grab().toImage();
     qApp->setStyleSheet(QString());
     // A valid sheet that rules nothing would leave the box as the platform draws it.

@@ -23,6 +23,8 @@ private slots:
     void dataFolderMayHoldAnyCharacter();
     void superuserHasNoDataFolder_data();
     void superuserHasNoDataFolder();
+    void superusersFolderIsToldByItsCase_data();
+    void superusersFolderIsToldByItsCase();
     void superuserLogGoesToTheFileSystemRoot();
 
 private:
@@ -95,6 +97,23 @@ void TstUtilFolders::superuserHasNoDataFolder()
     qputenv("XDG_DATA_HOME", home);
     QCOMPARE(Util::GetTempDir(), QString());
     QVERIFY(!QFile::exists(QFile::decodeName(home) + "/tst_util_folders"));
+}
+
+void TstUtilFolders::superusersFolderIsToldByItsCase_data()
+{
+    QTest::addColumn<QByteArray>("home");
+    QTest::newRow("all capitals") << QByteArray("/VAR/ROOT");
+    QTest::newRow("first letter") << QByteArray("/Var/root");
+    QTest::newRow("last letter") << QByteArray("/var/rooT");
+}
+
+void TstUtilFolders::superusersFolderIsToldByItsCase()
+{
+    QFETCH(QByteArray, home);
+    // Really where nobody can make one, so that none is left behind.
+    home += "/../../proc/none";
+    qputenv("XDG_DATA_HOME", home);
+    QCOMPARE(Util::GetTempDir(), QFile::decodeName(home) + "/tst_util_folders");
 }
 
 void TstUtilFolders::superuserLogGoesToTheFileSystemRoot()
