@@ -17,9 +17,9 @@
 namespace
 {
 
-CPage4* createPage(QWidget& window)
+CPage4* createPage(QWidget* window)
 {
-    CPage4* const page = new CPage4(&window);
+    CPage4* const page = new CPage4(window);
     page->InitializeUI();
     return page;
 }
@@ -27,7 +27,7 @@ CPage4* createPage(QWidget& window)
 } // namespace
 
 EditPageFixture::EditPageFixture()
-    : PageFixture(createPage(window))
+    : PageFixture(createPage(&window))
     , page(window.findChild<CPage4*>())
     , archiver(QCoreApplication::applicationDirPath() + "/7z/7z")
     , author(QCoreApplication::applicationDirPath() + "/cdrtools/mkisofs")

@@ -21,9 +21,9 @@ QString entryLine(const QString& attributes, const QString& size, const QString&
         .arg(attributes, size.rightJustified(12), path);
 }
 
-CPage2* createPage(QWidget& window)
+CPage2* createPage(QWidget* window)
 {
-    CPage2* const page = new CPage2(&window);
+    CPage2* const page = new CPage2(window);
     page->InitializeUI();
     return page;
 }
@@ -31,7 +31,7 @@ CPage2* createPage(QWidget& window)
 } // namespace
 
 ExtractPageFixture::ExtractPageFixture()
-    : PageFixture(createPage(window))
+    : PageFixture(createPage(&window))
     , tool(toolPath())
     , page(window.findChild<CPage2*>())
     , isoPath(path("image.iso"))
