@@ -4,10 +4,11 @@
 #include "commandtext.h"
 
 #include "toolenvironment.h"
+#include "toollimits.h"
 #include "util.h"
 
-#include <QDeadlineTimer>
 #include <QDebug>
+#include <QElapsedTimer>
 #include <QProcess>
 
 namespace
@@ -21,13 +22,18 @@ QByteArray untilZero(const QByteArray& bytes)
 }
 
 // Leaves the process running when it is overdue.
-QByteArray readUntilEnd(QProcess& process, int limit)
+QByteArray readUntilEnd(QProcess& process, Patience patience)
 {
+    const ToolLimits& limits = toolLimits();
+    const bool isLimited = patience == Patience::Limited;
     QByteArray output;
-    const QDeadlineTimer deadline(limit);
-    while (process.state() != QProcess::NotRunning && !deadline.hasExpired() &&
-           (limit < 0 || output.size() < mostOutput)) {
-        process.waitForReadyRead(static_cast<int>(deadline.remainingTime()));
+    QElapsedTimer waited;
+    waited.start();
+    const auto isOverdue = [&] {
+        return isLimited && (waited.elapsed() >= limits.answerMs || output.size() >= mostOutput);
+    };
+    while (process.state() != QProcess::NotRunning && !isOverdue()) {
+        process.waitForReadyRead(isLimited ? limits.stepMs.load() : -1);
         output += process.readAllStandardOutput();
     }
     return output;
@@ -35,8 +41,8 @@ QByteArray readUntilEnd(QProcess& process, int limit)
 
 } // namespace
 
-QByteArray runCommandText(const QString& command, const std::optional<QByteArray>& input, int limit,
-                          Overdue overdue)
+QByteArray runCommandText(const QString& command, const std::optional<QByteArray>& input,
+                          Patience patience, Overdue overdue)
 {
     QStringList words = QProcess::splitCommand(command);
     if (words.isEmpty())
@@ -50,11 +56,14 @@ QByteArray runCommandText(const QString& command, const std::optional<QByteArray
         process.write(untilZero(*input));
         process.closeWriteChannel();
     }
-    const QByteArray output = readUntilEnd(process, limit);
+    QByteArray output = readUntilEnd(process, patience);
     if (process.state() != QProcess::NotRunning) {
         process.kill();
         process.waitForFinished(-1);
-        return overdue == Overdue::Keep ? untilZero(output) : QByteArray();
+        if (overdue == Overdue::Drop)
+            return {};
+        // What it had written when it was killed.
+        output += process.readAllStandardOutput();
     }
     return untilZero(output);
 }

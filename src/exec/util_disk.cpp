@@ -10,13 +10,11 @@
 namespace
 {
 
-const int limitInMilliseconds = 30000;
-
 // Volume names may hold any character, so the text is UTF-8.
 QString diskInfo(const QString& disk)
 {
     const QString info =
-        QString::fromUtf8(runCommandText("diskutil info " + disk, {}, limitInMilliseconds));
+        QString::fromUtf8(runCommandText("diskutil info " + disk, {}, Patience::Limited));
     qDebug() << info;
     return info;
 }

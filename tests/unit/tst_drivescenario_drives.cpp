@@ -54,7 +54,7 @@ void TstDriveScenarioDrives::cleanup()
 
 QString TstDriveScenarioDrives::text(const QString& command)
 {
-    return QString::fromUtf8(runCommandText(command, {}, 30000));
+    return QString::fromUtf8(runCommandText(command, {}, Patience::Limited));
 }
 
 void TstDriveScenarioDrives::machineWithoutDrivesHasItsOwnDisk()

@@ -4,6 +4,7 @@
 #include "foldertest.h"
 #include "testfiles.h"
 #include "testmain.h"
+#include "trigger.h"
 #include "util.h"
 
 #include <QThread>
@@ -15,8 +16,6 @@ class TstExternalCommandsEvents : public FolderTest
     Q_OBJECT
 
 public slots:
-    void tick() { ++ticks; }
-    void callWithinACall() { inner = Util::callexternapp(script("sleep 0.6; printf inner"), {}); }
     void callAndQuitMeanwhile();
 
 private slots:
@@ -31,9 +30,12 @@ private slots:
 private:
     // Path of an executable script with this body.
     QString script(const QByteArray& body);
+    // The same of one that tells that it runs, and waits for release() before it does this.
+    QString heldScript(const QByteArray& body);
+    static bool isHeld(const QString& tool) { return QFile::exists(tool + ".runs"); }
+    static void release(const QString& tool) { writeFile(tool + ".go", {}); }
 
     int scripts = 0;
-    int ticks = 0;
     QString inner;
     QString outer;
 };
@@ -67,7 +69,6 @@ private:
 void TstExternalCommandsEvents::init()
 {
     FolderTest::init();
-    ticks = 0;
     inner.clear();
     outer.clear();
 }
@@ -77,30 +78,45 @@ QString TstExternalCommandsEvents::script(const QByteArray& body)
     return writeScript(folder->filePath(QString("tool%1").arg(++scripts)), body);
 }
 
+QString TstExternalCommandsEvents::heldScript(const QByteArray& body)
+{
+    return script(": >\"$0.runs\"; while [ ! -e \"$0.go\" ]; do sleep 0.01; done\n" + body);
+}
+
 void TstExternalCommandsEvents::callAndQuitMeanwhile()
 {
-    QTimer::singleShot(50, qApp, SLOT(quit()));
-    outer = Util::callexternapp(script("sleep 0.3; printf outer"), {});
+    const QString tool = heldScript("printf outer");
+    const Trigger quit([&tool] { return isHeld(tool); },
+                       [&tool] {
+                           qApp->quit();
+                           release(tool);
+                       });
+    outer = Util::callexternapp(tool, {});
     inner = Util::callexternapp(script("printf later"), {});
 }
 
 void TstExternalCommandsEvents::eventsGoOnMeanwhile()
 {
-    QTimer timer;
-    QVERIFY(connect(&timer, SIGNAL(timeout()), this, SLOT(tick())));
-    timer.start(10);
-    Util::callexternapp(script("sleep 0.5"), {});
-    QVERIFY(ticks >= 5);
-    ticks = 0;
-    Util::callexternappWriteToStdin(script("sleep 0.5"), {}, "x");
-    QVERIFY(ticks >= 5);
+    // The tool ends only because of an event.
+    const QString tool = heldScript("printf released");
+    const Trigger event([&tool] { return isHeld(tool); }, [&tool] { release(tool); });
+    QCOMPARE(Util::callexternapp(tool, {}), QString("released"));
+    const QString reader = heldScript("cat");
+    const Trigger next([&reader] { return isHeld(reader); }, [&reader] { release(reader); });
+    QCOMPARE(Util::callexternappWriteToStdin(reader, {}, "x"), QString("x"));
 }
 
 void TstExternalCommandsEvents::callWithinACallWorks()
 {
     // The inner call begins while the outer one waits, and ends after its tool.
-    QTimer::singleShot(100, this, SLOT(callWithinACall()));
-    QCOMPARE(Util::callexternapp(script("sleep 0.4; printf outer"), {}), QString("outer"));
+    const QString outerTool = heldScript("printf outer; : >\"$0.done\"");
+    const QString innerTool = heldScript("printf inner");
+    const Trigger begin([&] { return isHeld(outerTool); },
+                        [&] { inner = Util::callexternapp(innerTool, {}); });
+    const Trigger meanwhile([&] { return isHeld(innerTool); }, [&] { release(outerTool); });
+    const Trigger end([&] { return QFile::exists(outerTool + ".done"); },
+                      [&] { release(innerTool); });
+    QCOMPARE(Util::callexternapp(outerTool, {}), QString("outer"));
     QCOMPARE(inner, QString("inner"));
 }
 

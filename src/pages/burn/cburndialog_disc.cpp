@@ -26,12 +26,10 @@
 namespace
 {
 
-constexpr int mountLimitMs = 30000;
-
 QString runImageTool(const QString& command)
 {
     return QString::fromUtf8(awaitResult(
-        [&command] { return runCommandText(command, {}, mountLimitMs, Overdue::Keep); }));
+        [&command] { return runCommandText(command, {}, Patience::Limited, Overdue::Keep); }));
 }
 
 // The tools take a leading "-" for a switch and a leading "@" for a list of files.

@@ -19,8 +19,6 @@
 namespace
 {
 
-constexpr int infoLimitMs = 30000;
-
 // What the pattern captures first; empty, and noted in the log, when it does not match.
 QString captured(const QString& pattern, const QString& text, const QString& complaint)
 {
@@ -108,7 +106,7 @@ void CBurnDialog::listWaitingDisks()
 bool CBurnDialog::CheckDiskIsUSB(QString device)
 {
     const QString info = QString::fromUtf8(awaitResult([&device] {
-        return runCommandText("diskutil info " + device, {}, infoLimitMs, Overdue::Keep);
+        return runCommandText("diskutil info " + device, {}, Patience::Limited, Overdue::Keep);
     }));
     qDebug() << info;
     return isRemovableUsbDisk(info);

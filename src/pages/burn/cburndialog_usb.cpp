@@ -26,7 +26,6 @@ namespace
 {
 
 constexpr qint64 headroom = 50LL << 20; // bytes that the disk has to have beyond the image's
-constexpr int unmountLimitMs = 30000;
 
 const QLatin1String firstPartition("s1");
 
@@ -94,7 +93,7 @@ void CBurnDialog::writeUsb(const QString& isoPath, const std::optional<QString>&
     }
     if (largeImage)
         awaitResult([&largeImage] {
-            return runCommandText(forceUnmountImageCommand(*largeImage), {}, unmountLimitMs);
+            return runCommandText(forceUnmountImageCommand(*largeImage), {}, Patience::Limited);
         });
     progress->hide();
     Util::ShowError(tr("Burning Successfully..."));
