@@ -17,9 +17,9 @@ QByteArray contentOf(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-qint64 statusNumber(const QByteArray& field)
+qint64 statusNumber(const QByteArray& field, const QString& path = "/proc/self/status")
 {
-    const QList<QByteArray> lines = contentOf("/proc/self/status").split('\n');
+    const QList<QByteArray> lines = contentOf(path).split('\n');
     for (const QByteArray& line : lines) {
         if (line.startsWith(field + ':'))
             return line.mid(field.size() + 1).simplified().split(' ').first().toLongLong();
@@ -39,19 +39,34 @@ QStringList processNumbers()
     return QDir("/proc").entryList({"[0-9]*"}, QDir::Dirs);
 }
 
+QStringList runnerThreads()
+{
+    // The system keeps 15 characters of the class's name.
+    const QByteArray name = QByteArray("CRunCommandThread").left(15);
+    QStringList found;
+    const QStringList threads = QDir("/proc/self/task").entryList(QDir::Dirs);
+    for (const QString& thread : threads) {
+        const QString folder = "/proc/self/task/" + thread;
+        if (contentOf(folder + "/comm").trimmed() == name)
+            found.append(folder);
+    }
+    return found;
+}
+
 } // namespace
 
 int runnerThreadCount()
 {
-    // The system keeps 15 characters of the class's name.
-    const QByteArray name = QByteArray("CRunCommandThread").left(15);
-    int count = 0;
-    const QStringList threads = QDir("/proc/self/task").entryList(QDir::Dirs);
-    for (const QString& thread : threads) {
-        if (contentOf("/proc/self/task/" + thread + "/comm").trimmed() == name)
-            ++count;
-    }
-    return count;
+    return runnerThreads().size();
+}
+
+qint64 runnerThreadWaits()
+{
+    qint64 waits = 0;
+    const QStringList threads = runnerThreads();
+    for (const QString& thread : threads)
+        waits += statusNumber("voluntary_ctxt_switches", thread + "/status");
+    return waits;
 }
 
 int descriptorCount()

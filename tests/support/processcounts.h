@@ -11,6 +11,9 @@
 // The threads of runners; each has one while its tool runs or is being stopped. A thread that has
 // been waited for can still be counted for a moment: it says from within that it has ended.
 int runnerThreadCount();
+// How often they have had to wait for something since they began. A runner looks at a silent tool
+// once for each ToolLimits::stepMs.
+qint64 runnerThreadWaits();
 int descriptorCount();
 qint64 residentKilobytes();
 // Process numbers of the direct children, ended but unreaped ones included.

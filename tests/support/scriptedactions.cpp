@@ -98,6 +98,27 @@ void writeVariable(const std::string& name)
     writeText(1, value ? name + '=' + value + '\n' : name + "!\n");
 }
 
+sigset_t stopRequests()
+{
+    sigset_t signals;
+    ::sigemptyset(&signals);
+    ::sigaddset(&signals, SIGTERM);
+    return signals;
+}
+
+void keepStopRequestsBack()
+{
+    const sigset_t signals = stopRequests();
+    ::sigprocmask(SIG_BLOCK, &signals, nullptr);
+}
+
+void awaitStopRequest()
+{
+    const sigset_t signals = stopRequests();
+    int received = 0;
+    ::sigwait(&signals, &received);
+}
+
 void startChild(long milliseconds)
 {
     if (::fork() == 0) {
@@ -167,6 +188,10 @@ bool ScriptedActions::perform(const std::string& line)
         copyInput();
     else if (command == "ignore-term")
         std::signal(SIGTERM, SIG_IGN);
+    else if (command == "heed-term")
+        keepStopRequestsBack();
+    else if (command == "await-term")
+        awaitStopRequest();
     else if (command == "child")
         startChild(number);
     else if (command == "exit")

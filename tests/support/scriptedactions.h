@@ -18,6 +18,8 @@
 //   input          copies standard input to standard output until its end
 //   environment N  writes the variable N as N=value, or N! when it is not set
 //   ignore-term    ignores polite stop requests from here on
+//   heed-term      keeps polite stop requests back from here on, for:
+//   await-term     waits for such a request
 //   child MS       starts a child that holds the output channels open for so long
 //   exit N / crash
 
