@@ -23,11 +23,11 @@ void CProcess::OnTerminate()
 
 void CProcess::killGroup()
 {
+    const QMutexLocker locker(&mutex);
+    killed = true;
     // Group 0 would be our own.
     if (group > 0)
         ::kill(-pid_t(group), SIGKILL);
-    if (state() != NotRunning)
-        kill();
 }
 
 void CProcess::setupChildProcess()
@@ -37,5 +37,8 @@ void CProcess::setupChildProcess()
 
 void CProcess::rememberGroup()
 {
+    const QMutexLocker locker(&mutex);
     group = processId();
+    if (killed && group > 0)
+        ::kill(-pid_t(group), SIGKILL);
 }

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QMutex>
 #include <QProcess>
 
 // The child process of a runner. It leads a process group of its own, so that a tool can be ended
@@ -14,8 +15,8 @@ class CProcess : public QProcess
 public:
     explicit CProcess(QObject* parent = nullptr);
 
-    // Kills the tool and everything in its group at once. May be called after the tool has ended,
-    // for what it left behind. Thread of the process object.
+    // Kills the tool and everything in its group at once; one that is only just being started, as
+    // soon as it runs. May be called after the tool has ended, for what it left behind. Any thread.
     void killGroup();
 
 public slots:
@@ -29,5 +30,7 @@ private slots:
     void rememberGroup();
 
 private:
+    QMutex mutex; // guards what follows
     qint64 group = 0;
+    bool killed = false;
 };

@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QSettings>
+#include <QTimer>
 
 namespace
 {
@@ -35,7 +36,7 @@ CRunCommandThread::CRunCommandThread(QObject* parent)
 
 CRunCommandThread::~CRunCommandThread()
 {
-    if (isRunning() && ending == Ending::None)
+    if (isRunning())
         terminate();
     if (!wait(stuckWorkerMs)) {
         QThread::terminate();
@@ -57,16 +58,42 @@ void CRunCommandThread::SetNeedRealOutput(bool need)
 
 void CRunCommandThread::start(QThread::Priority priority)
 {
-    // A stopped run may still be on its way out.
-    if (ending == Ending::Stopped)
-        wait();
+    running = true;
+    if (isBegun())
+        return;
+    // The worker of the last run has nothing left to do but to leave.
+    wait();
     // After a run the runner is back in the thread that made it.
     if (thread() == QThread::currentThread())
         moveToThread(this);
-    ending = Ending::None;
-    killRequested = false;
-    running = true;
     QThread::start(priority);
+}
+
+// Whether there is a worker that has the run in hand. A worker that still deals with the end of the
+// last one goes on to the next; to wait here until it has left would be to wait for ever when it is
+// the worker itself that calls, or when the worker waits for the caller.
+bool CRunCommandThread::isBegun()
+{
+    const QMutexLocker locker(&requests);
+    if (isWantedAgain || (isWorking && ending == Ending::None))
+        return true;
+    killRequested = false;
+    isWantedAgain = isWorking;
+    if (!isWorking)
+        ending = Ending::None;
+    isWorking = true;
+    return isWantedAgain;
+}
+
+// Worker thread, at the end of a run. When there is no other, no start() reaches this worker again.
+bool CRunCommandThread::isBegunAgain()
+{
+    const QMutexLocker locker(&requests);
+    isWorking = isWantedAgain;
+    if (isWantedAgain)
+        ending = Ending::None;
+    isWantedAgain = false;
+    return isWorking;
 }
 
 void CRunCommandThread::waitFinished()
@@ -82,9 +109,14 @@ void CRunCommandThread::waitFinished()
 void CRunCommandThread::terminate()
 {
     qDebug() << "CRunCommandThread::terminate is called" << cmd;
-    Ending none = Ending::None;
-    if (!ending.compare_exchange_strong(none, Ending::Stopped))
-        return;
+    {
+        const QMutexLocker locker(&requests);
+        Ending none = Ending::None;
+        // A run that has been asked for and not begun just does not take place.
+        if (!ending.compare_exchange_strong(none, Ending::Stopped) && !isWantedAgain)
+            return;
+        isWantedAgain = false;
+    }
     emit terminateprocess();
     started = false;
 }
@@ -94,14 +126,23 @@ bool CRunCommandThread::isStopped() const
     return ending == Ending::Stopped;
 }
 
+void CRunCommandThread::deleteLater()
+{
+    if (thread() != this || isRunning()) {
+        QThread::deleteLater();
+        return;
+    }
+    // In vain when somebody else deletes the runner before.
+    QTimer::singleShot(0, pacer.get(), [this] { delete this; });
+}
+
+// From any thread, so that a worker which is up to its neck in output need not listen for it.
 void CRunCommandThread::OnTerminateProcess()
 {
     qDebug() << "CRunCommandThread::OnTerminateProcess is called" << process.load();
-    // The process belongs to the worker, which looks at this request at its next step.
-    if (isRunning() && QThread::currentThread() != this) {
+    // The worker looks at this when the process is only just about to be.
+    if (QThread::currentThread() != this)
         killRequested = true;
-        return;
-    }
     if (CProcess* const current = process.exchange(nullptr))
         current->killGroup();
 }

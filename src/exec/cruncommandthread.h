@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QMutex>
 #include <QProcess>
 #include <QStringList>
 #include <QThread>
@@ -19,8 +20,10 @@ class DeliveryPacer;
 // Use, from the user-interface thread: construct without parent, SetRunCmd(), connect
 // standoutputline() and sigfinished(), start(). The runner lives in its worker thread while that
 // runs and comes back when it ends; deleteLater() is safe at any time.
+// The tool gets no input: it reads the end of it at once, whatever it asks.
 //
-//   idle --start()--> running --tool ends--> sigfinished() --> idle, may be started again
+//   idle --start()--> running --tool ends--> sigfinished() --> idle, may be started again, also
+//                        |                                    from a slot on sigfinished()
 //                        |
 //                        +--terminate()--> stopped: no sigfinished(), `running` stays true
 //
@@ -40,6 +43,8 @@ public:
     void SetRunCmd(QString cmd, QStringList args);
     // Kept for the caller, the runner does not consult it.
     void SetNeedRealOutput(bool need);
+    // Does nothing while a run is in progress. When the last one is only just ending, in whatever
+    // way, the next one begins after it.
     void start(QThread::Priority priority = QThread::InheritPriority);
     // Processes the caller's events until the tool has finished and all that it printed has been
     // received. Not after terminate().
@@ -55,8 +60,16 @@ public:
     // Set before start(): no signal for each piece; outputLines is there after sigfinished().
     bool collectOutput = false;
     QStringList outputLines;
+    // Set before start(): the output is a list, of which a reader needs whole lines. One that is
+    // unfinished is left alone until the tool has ended, however long the tool pauses in it.
+    bool wholeLines = false;
+    // The system's script runner.
+    QString scriptRunner = "/usr/bin/osascript";
 
 public slots:
+    // Also frees a runner that was given a command and never started: it lives in a thread that
+    // handles no events.
+    void deleteLater();
     // Kills the current process at once; the run then ends as if the tool had.
     void OnTerminateProcess();
     void sloterrorstart(QProcess::ProcessError error);
@@ -80,20 +93,25 @@ private:
         Finished,
         Stopped
     };
+    // Which of the output that no line feed ends yet is read.
     enum class Unfinished
     {
         Leave,
-        Take
+        Take,
+        TakeAll
     };
 
     bool isStopped() const;
+    bool isBegun();
+    bool isBegunAgain();
+    void runTool();
     void startProcess(CProcess& child);
-    void startOsascript(CProcess& child);
     void logCommand() const;
     void waitForEnd(CProcess& child);
     void endStopped(CProcess& child);
     void readPieces(CProcess& child, Unfinished unfinished);
     bool hasReadable(CProcess& child, Unfinished unfinished) const;
+    QByteArray readLine(CProcess& child, Unfinished unfinished) const;
     void deliver(QStringList& pieces);
     void collectLines(CProcess& child);
 
@@ -104,8 +122,13 @@ private:
     QString localCodePage;
     std::atomic<bool> started{false};
 
+    // Guards what follows: what has been asked of the worker, and whether it still takes requests.
+    QMutex requests;
+    bool isWorking = false;
+    bool isWantedAgain = false;
     // Whichever of the tool's end and terminate() comes first decides how the run ends.
     std::atomic<Ending> ending{Ending::None};
+
     std::atomic<bool> killRequested{false};
     bool outputArrived = false;
     // Stays in the thread that made the runner, which is where the runner goes back to.

@@ -14,8 +14,8 @@
 namespace
 {
 
-// One read yields at most one byte less than this.
-constexpr int readSize = 2048;
+// What one read yields at most, in bytes.
+constexpr int longestRead = 2047;
 // Pieces that are logged and emitted together.
 constexpr int burstSize = 128;
 
@@ -28,7 +28,7 @@ void CRunCommandThread::onReadOutput()
         return;
     outputArrived = true;
     if (isStopped())
-        child->closeReadChannel(QProcess::StandardOutput); // what still comes must not pile up
+        child->readAll(); // what still comes must not pile up
     else
         readPieces(*child, Unfinished::Leave);
 }
@@ -42,11 +42,11 @@ void CRunCommandThread::onReadErrorOutput()
 void CRunCommandThread::readPieces(CProcess& child, Unfinished unfinished)
 {
     QStringList pieces;
-    char line[readSize];
     while (!isStopped() && hasReadable(child, unfinished)) {
-        if (child.readLine(line, readSize) <= 0)
+        const QByteArray line = readLine(child, unfinished);
+        if (line.isEmpty())
             break;
-        const QString text = QString::fromLocal8Bit(line);
+        const QString text = QString::fromLocal8Bit(line.constData()); // up to the first zero byte
         qCDebug(toolOutput) << text;
         pieces += outputPieces(text);
         if (pieces.size() >= burstSize)
@@ -62,9 +62,24 @@ bool CRunCommandThread::hasReadable(CProcess& child, Unfinished unfinished) cons
     const qint64 available = child.bytesAvailable();
     if (available == 0)
         return false;
-    if (unfinished == Unfinished::Take || available >= readSize - 1)
+    if (unfinished != Unfinished::Leave || available >= longestRead || child.canReadLine())
         return true;
-    return child.canReadLine() || isDrawnInPlace(child.peek(available));
+    return !wholeLines && isDrawnInPlace(child.peek(available));
+}
+
+// Gives back the beginning of a character whose end is still to come.
+QByteArray CRunCommandThread::readLine(CProcess& child, Unfinished unfinished) const
+{
+    QByteArray line(longestRead + 1, Qt::Uninitialized); // one for the zero that is put behind it
+    line.truncate(static_cast<int>(qMax(qint64(0), child.readLine(line.data(), line.size()))));
+    const bool isLast = unfinished == Unfinished::TakeAll && child.bytesAvailable() == 0;
+    if (line.endsWith('\n') || isLast)
+        return line;
+    const int whole = wholeCharacters(line);
+    for (int i = line.size() - 1; i >= whole; --i)
+        child.ungetChar(line.at(i));
+    line.truncate(whole);
+    return line;
 }
 
 void CRunCommandThread::deliver(QStringList& pieces)

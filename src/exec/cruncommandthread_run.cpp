@@ -7,25 +7,25 @@
 #include "cruncommandthread.h"
 #include "deliverypacer.h"
 #include "toolenvironment.h"
+#include "toollimits.h"
 #include "util.h"
 
 #include <QCoreApplication>
 #include <QDebug>
-
-namespace
-{
-
-constexpr int pollMs = 300;
-// How long a tool that was asked to stop may take before it is killed, and how long its end is
-// then waited for.
-constexpr int politeStopMs = 500;
-constexpr int killedMs = 1000;
-
-} // namespace
+#include <QElapsedTimer>
 
 void CRunCommandThread::run()
 {
     QThread* const home = pacer->thread();
+    do {
+        runTool();
+    } while (isBegunAgain());
+    // Whoever deletes the runner does so in its home thread, never in the worker itself.
+    moveToThread(home);
+}
+
+void CRunCommandThread::runTool()
+{
     OnTerminateProcess();
     CProcess* const child = new CProcess(this);
     process = child;
@@ -57,8 +57,6 @@ void CRunCommandThread::run()
         endStopped(*child);
     }
     started = false;
-    // Whoever deletes the runner does so in its home thread, never in the worker itself.
-    moveToThread(home);
 }
 
 void CRunCommandThread::startProcess(CProcess& child)
@@ -68,19 +66,15 @@ void CRunCommandThread::startProcess(CProcess& child)
     if (!args.isEmpty()) {
         child.start(cmd, args, QIODevice::ReadWrite);
     } else if (useOsascript) {
-        startOsascript(child);
+        child.start(scriptRunner, {"-l", "AppleScript"}, QIODevice::ReadWrite);
+        // The script goes through standard input, so that it appears in no list of processes.
+        child.write(cmd.toUtf8());
     } else {
         QStringList words = QProcess::splitCommand(cmd);
         const QString program = words.isEmpty() ? QString() : words.takeFirst();
         child.start(program, words, QIODevice::ReadWrite);
     }
-}
-
-// The script goes through standard input, so that it appears in no list of processes.
-void CRunCommandThread::startOsascript(CProcess& child)
-{
-    child.start("/usr/bin/osascript", {"-l", "AppleScript"}, QIODevice::ReadWrite);
-    child.write(cmd.toUtf8());
+    // Nobody is there to answer a tool that asks.
     child.closeWriteChannel();
 }
 
@@ -92,32 +86,37 @@ void CRunCommandThread::logCommand() const
     Util::WriteLog(line);
 }
 
+// One piece of news of the tool at a time: to wait for its end alone would mean to look at nothing
+// else for as long as it floods.
 void CRunCommandThread::waitForEnd(CProcess& child)
 {
     while (!isStopped() && child.state() != QProcess::NotRunning) {
         QCoreApplication::processEvents();
         if (killRequested.exchange(false))
-            OnTerminateProcess();
+            child.killGroup();
         outputArrived = false;
-        if (child.waitForFinished(pollMs))
-            break;
-        if (!outputArrived && !collectOutput && !isStopped())
+        child.waitForReadyRead(toolLimits().stepMs);
+        const bool hasPaused = !outputArrived && child.state() != QProcess::NotRunning;
+        if (hasPaused && !collectOutput && !wholeLines && !isStopped())
             readPieces(child, Unfinished::Take);
     }
     if (!collectOutput && !isStopped())
-        readPieces(child, Unfinished::Take);
+        readPieces(child, Unfinished::TakeAll);
 }
 
 // Off the window's thread, so that a tool which ignores the request costs the user nothing.
 void CRunCommandThread::endStopped(CProcess& child)
 {
     process = nullptr;
-    child.closeReadChannel(QProcess::StandardOutput);
     QCoreApplication::processEvents();
-    if (child.state() != QProcess::NotRunning)
-        child.waitForFinished(politeStopMs);
+    QElapsedTimer asked;
+    asked.start();
+    while (child.state() != QProcess::NotRunning && asked.elapsed() < toolLimits().politeStopMs) {
+        child.waitForReadyRead(qMin(toolLimits().stepMs.load(), toolLimits().politeStopMs.load()));
+        child.readAll(); // must not pile up
+    }
     child.killGroup();
-    if (child.state() != QProcess::NotRunning && !child.waitForFinished(killedMs)) {
+    if (child.state() != QProcess::NotRunning && !child.waitForFinished(toolLimits().killedMs)) {
         // The system holds on to it. Deleting the process object would wait for half a minute.
         qDebug() << "CRunCommandThread: the tool survived its kill" << cmd;
         child.setParent(nullptr);

@@ -3,6 +3,9 @@
 
 #include "deliverypacer.h"
 
+#include "toollimits.h"
+
+#include <QElapsedTimer>
 #include <QMetaObject>
 #include <QTimer>
 
@@ -12,7 +15,6 @@ namespace
 constexpr int piecesPerReceipt = 256;
 constexpr int receiptsInFlight = 8;
 constexpr int waitStepMs = 50;
-constexpr int patienceSteps = 20;
 
 } // namespace
 
@@ -20,6 +22,7 @@ void DeliveryPacer::reset()
 {
     unreceipted = 0;
     receiptsOutstanding = 0;
+    isAnswered = true;
     receipts = std::make_shared<QSemaphore>();
 }
 
@@ -29,13 +32,33 @@ void DeliveryPacer::afterEmitting(int pieces, const std::function<bool()>& isSto
     if (unreceipted < piecesPerReceipt)
         return;
     unreceipted = 0;
-    requestReceipt();
-    for (int step = 0; receiptsOutstanding > receiptsInFlight && step < patienceSteps; ++step) {
-        if (isStopped())
-            return;
+    takeReceipts();
+    // Requests that nobody answers must not pile up either.
+    if (isAnswered || receiptsOutstanding <= receiptsInFlight)
+        requestReceipt();
+    if (isAnswered)
+        waitForReceipts(isStopped);
+}
+
+void DeliveryPacer::takeReceipts()
+{
+    while (receiptsOutstanding > 0 && receipts->tryAcquire()) {
+        --receiptsOutstanding;
+        isAnswered = true;
+    }
+}
+
+void DeliveryPacer::waitForReceipts(const std::function<bool()>& isStopped)
+{
+    QElapsedTimer silence;
+    silence.start();
+    while (receiptsOutstanding > receiptsInFlight && !isStopped()) {
         if (receipts->tryAcquire(1, waitStepMs)) {
             --receiptsOutstanding;
-            step = 0;
+            silence.start();
+        } else if (silence.elapsed() >= toolLimits().deliveryMs) {
+            isAnswered = false;
+            return;
         }
     }
 }

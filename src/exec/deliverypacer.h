@@ -20,14 +20,18 @@ public:
     // Worker thread, before the first piece of a run.
     void reset();
     // Worker thread, after `pieces` signals were emitted. Waits while too many of them are still on
-    // their way; gives up when isStopped() or when nothing is received for a second, so that a
-    // receiver that has stopped to listen blocks nobody.
+    // their way; gives up when isStopped() or when nothing is received for a while. A receiver that
+    // does not listen (or gets its signals in the worker itself, while its own thread is away) is
+    // not waited for again before it shows that it does.
     void afterEmitting(int pieces, const std::function<bool()>& isStopped);
 
 private:
     void requestReceipt();
+    void takeReceipts();
+    void waitForReceipts(const std::function<bool()>& isStopped);
 
     int unreceipted = 0;
     int receiptsOutstanding = 0;
+    bool isAnswered = true;
     std::shared_ptr<QSemaphore> receipts = std::make_shared<QSemaphore>();
 };

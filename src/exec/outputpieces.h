@@ -12,3 +12,7 @@ QStringList outputPieces(const QString& text);
 // Whether output that no line feed ends yet can be read at once: a tool that draws its progress in
 // place writes carriage returns or backspaces and no line feeds for minutes.
 bool isDrawnInPlace(const QByteArray& unfinished);
+
+// How many of these bytes make whole UTF-8 characters: all but one that has only begun at their
+// end. What is no UTF-8 counts as whole.
+int wholeCharacters(const QByteArray& bytes);

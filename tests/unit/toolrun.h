@@ -7,6 +7,9 @@
 
 #include <QTest>
 
+#include <atomic>
+#include <memory>
+
 // What the runner's tests have in common.
 
 // The stand-in tool beside the test executable.
@@ -15,26 +18,26 @@ inline QString toolPath()
     return QCoreApplication::applicationDirPath() + "/7z/7z";
 }
 
-constexpr int stopLimitMs = 2000;
+// Only a test that fails needs so long.
+constexpr int limitMs = 60000;
 
-// The longest time between two turns of the event loop, which is how long a window would not
-// answer.
-class LoopWatch : public QObject
+// Waits until the tool of a runner, if it is silent, has been so for a step of the runner; whether
+// that comes in time.
+inline bool hasPaused(QObject* runner)
 {
-public:
-    LoopWatch()
-    {
-        sinceTurn.start();
-        startTimer(5);
+    // A call that is queued for the runner is handled between two steps. What the tool has written
+    // by now arrives in the first of them at the latest.
+    const auto steps = std::make_shared<std::atomic<int>>(0);
+    for (int step = 1; step <= 3; ++step) {
+        QMetaObject::invokeMethod(runner, [steps] { ++*steps; }, Qt::QueuedConnection);
+        for (int waited = 0; *steps < step; ++waited) {
+            if (waited == limitMs)
+                return false;
+            QThread::msleep(1);
+        }
     }
-    qint64 longestMs = 0;
-
-protected:
-    void timerEvent(QTimerEvent*) override { longestMs = qMax(longestMs, sinceTurn.restart()); }
-
-private:
-    QElapsedTimer sinceTurn;
-};
+    return true;
+}
 
 // A runner of the stand-in tool and what this thread has received from it.
 struct Run
@@ -50,18 +53,26 @@ struct Run
         runner.SetRunCmd(toolPath(), arguments);
     }
 
-    bool waitForEnd(int limitMs = 10000, int ends = 1)
+    bool waitForEnd(int ends = 1)
     {
         return QTest::qWaitFor([this, ends] { return finished == ends; }, limitMs);
     }
 
-    bool finish(int limitMs = 10000)
+    bool finish()
     {
         runner.start(QThread::InheritPriority);
-        return waitForEnd(limitMs);
+        return waitForEnd();
     }
 
-    bool waitForPieces(int count, int limitMs = 5000)
+    // Until the worker has left, stopped or not, and all that it sent has been received.
+    bool waitForWorker()
+    {
+        const bool hasLeft = runner.wait(limitMs);
+        QCoreApplication::processEvents();
+        return hasLeft;
+    }
+
+    bool waitForPieces(int count)
     {
         return QTest::qWaitFor([this, count] { return pieces.size() >= count; }, limitMs);
     }

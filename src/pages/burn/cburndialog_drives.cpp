@@ -52,6 +52,7 @@ void CBurnDialog::refreshUsbDisks()
     CRunCommandThread runner(nullptr);
     usbRefresh = &runner;
     connect(&runner, SIGNAL(standoutputline(QString)), this, SLOT(onUSBLineOutput(QString)));
+    runner.wholeLines = true;
     runToEnd(runner, "diskutil list", {});
     listWaitingDisks();
 }
@@ -68,6 +69,7 @@ void CBurnDialog::refreshOpticalDrives()
         dvdCurrent = chosen;
     const QScopedValueRollback<bool> listing(listingDiscs, true);
     connect(&runner, SIGNAL(standoutputline(QString)), this, SLOT(onLineOutput(QString)));
+    runner.wholeLines = true;
     runToEnd(runner, "drutil", {"status"});
 }
 

@@ -14,13 +14,27 @@ ToolRun::~ToolRun()
 void ToolRun::start(QObject* receiver, const char* lineSlot, const char* endSlot,
                     const QString& program, const QStringList& arguments)
 {
+    prepare(receiver, lineSlot, endSlot, program, arguments);
+    runner->start(QThread::InheritPriority);
+}
+
+void ToolRun::startListing(QObject* receiver, const char* lineSlot, const char* endSlot,
+                           const QString& program, const QStringList& arguments)
+{
+    prepare(receiver, lineSlot, endSlot, program, arguments);
+    runner->wholeLines = true;
+    runner->start(QThread::InheritPriority);
+}
+
+void ToolRun::prepare(QObject* receiver, const char* lineSlot, const char* endSlot,
+                      const QString& program, const QStringList& arguments)
+{
     // However its run ends, a runner is used once.
     runner = createFreeRunner();
     QObject::connect(runner, SIGNAL(standoutputline(QString)), receiver, lineSlot);
     if (endSlot)
         QObject::connect(runner, SIGNAL(sigfinished()), receiver, endSlot);
     runner->SetRunCmd(program, arguments);
-    runner->start(QThread::InheritPriority);
 }
 
 void ToolRun::stop()

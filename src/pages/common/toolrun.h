@@ -25,6 +25,10 @@ public:
     // progress is let go: stop() it first if it shall end.
     void start(QObject* receiver, const char* lineSlot, const char* endSlot, const QString& program,
                const QStringList& arguments);
+    // The same for a tool that prints a list: lineSlot gets whole lines only, even if the tool
+    // pauses in the middle of one.
+    void startListing(QObject* receiver, const char* lineSlot, const char* endSlot,
+                      const QString& program, const QStringList& arguments);
     // Ends the tool in progress, if any; returns at once.
     void stop();
     // The same, but returns when the tool is gone: half a second with one that does not listen.
@@ -38,5 +42,8 @@ public:
     bool isLate(const QObject* sender) const;
 
 private:
+    void prepare(QObject* receiver, const char* lineSlot, const char* endSlot,
+                 const QString& program, const QStringList& arguments);
+
     QPointer<CRunCommandThread> runner;
 };

@@ -142,7 +142,7 @@ void CPage5::InitializeDVDComboBox()
     opticalDrives->clear();
     // What an unfinished refresh would still add is in the next answer as well.
     refresh.stop();
-    refresh.start(this, SLOT(onLineOutput(QString)), nullptr, "drutil", {"status"});
+    refresh.startListing(this, SLOT(onLineOutput(QString)), nullptr, "drutil", {"status"});
 }
 
 void CPage5::onLineOutput(QString line)
