@@ -137,9 +137,16 @@ void MainWindow::setUpTranslataion()
     nameTopButtons();
 }
 
+// The workers of the pages are left in the middle of whatever they do, so nothing may be taken away
+// from under them: the usual exit() destroys what the toolkit and we keep for the whole process
+// while they still use it.
 void MainWindow::onClose()
 {
-    std::exit(0);
+#ifdef Q_OS_MACOS
+    std::_Exit(0);
+#else
+    std::quick_exit(0);
+#endif
 }
 
 void MainWindow::onMin()

@@ -2,22 +2,30 @@
 // SPDX-License-Identifier: MIT
 
 #include "cpage2.h"
+#include "cruncommandthread.h"
 #include "mainwindow.h"
 #include "modaldriver.h"
 #include "processcounts.h"
 #include "scriptedcalls.h"
 #include "startup.h"
 #include "testcase.h"
+#include "testfiles.h"
 #include "testmain.h"
 #include "usermouse.h"
 
 #include <QProcess>
 #include <QTableWidget>
 
+#include <csignal>
+#include <cstdlib>
+#include <sys/stat.h>
+#include <unistd.h>
+
 namespace
 {
 
 const char* const closeArgument = "--close-while-extracting";
+const char* const leaveArgument = "--close-while-workers-write-the-log";
 
 QString toolPath()
 {
@@ -54,6 +62,50 @@ int closeWhileExtracting(int argc, char* argv[])
     return 1; // never reached
 }
 
+QByteArray logPath;
+
+qint64 logSize()
+{
+    struct stat log = {};
+    return ::stat(logPath.constData(), &log) == 0 ? qint64(log.st_size) : 0;
+}
+
+// The last step of an ordinary exit. It is held until the workers have written more, with all that
+// an exit takes from under them gone.
+void holdTheEnd()
+{
+    const qint64 size = logSize();
+    for (int waited = 0; logSize() < size + 100'000; ++waited) {
+        if (waited == 60'000)
+            ::_exit(2);
+        ::usleep(1000);
+    }
+}
+
+// The program with workers that write the log as fast as they can, whose close button is then
+// clicked.
+int closeWhileWorkersWriteTheLog(int argc, char* argv[])
+{
+    std::atexit(holdTheEnd);
+    prepareProcess();
+    const QApplication application(argc, argv);
+    const LogSwitch on;
+    logPath = QFile::encodeName(LogSwitch::logPath());
+    ScriptedCalls(toolPath()).setScript({"flood 100000000"});
+    MainWindow window(nullptr);
+    window.show();
+    CRunCommandThread runners[3];
+    for (CRunCommandThread& runner : runners) {
+        runner.SetRunCmd(toolPath(), {"x"});
+        runner.start();
+    }
+    const qint64 before = logSize();
+    if (!QTest::qWaitFor([before] { return logSize() > before + 1'000'000; }, 60'000))
+        return 3;
+    window.onClose();
+    return 1; // never reached
+}
+
 } // namespace
 
 // The program as a process of its own.
@@ -65,6 +117,7 @@ private slots:
     void startsAndStays_data();
     void startsAndStays();
     void closeButtonEndsTheProcessWhileAToolRuns();
+    void closeButtonTakesNothingFromUnderTheWorkers();
 };
 
 void TstProgram::startsAndStays_data()
@@ -113,8 +166,26 @@ void TstProgram::closeButtonEndsTheProcessWhileAToolRuns()
     }
 }
 
+void TstProgram::closeButtonTakesNothingFromUnderTheWorkers()
+{
+    QProcess program;
+    program.setProcessChannelMode(QProcess::MergedChannels);
+    program.start(QCoreApplication::applicationFilePath(), {leaveArgument});
+    const bool hasEnded = program.waitForFinished(120'000);
+    const QByteArray output = program.readAll();
+    const QList<qint64> tools = processesOf("scriptedtool");
+    for (const qint64 tool : tools)
+        ::kill(pid_t(tool), SIGKILL);
+    QFile::remove(LogSwitch::switchPath());
+    QVERIFY2(hasEnded, output);
+    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program.exitCode(), 0);
+}
+
 int main(int argc, char* argv[])
 {
+    if (argc == 2 && qstrcmp(argv[1], leaveArgument) == 0)
+        return closeWhileWorkersWriteTheLog(argc, argv);
     if (argc == 2 && qstrcmp(argv[1], closeArgument) == 0)
         return closeWhileExtracting(argc, argv);
     return runTests<TstProgram>(argc, argv);
