@@ -7,8 +7,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <pthread.h>
 
 // Fails a test program that ends before its last function is through: what it tests has called
 // exit(0), which would count as passed.
@@ -37,12 +39,41 @@ private:
     }
 };
 
+// Lets a child process die of a signal that comes before it has become the tool. The test library's
+// own handler, which it has until then, may wait for ever in it for a lock that another thread
+// holds.
+class SignalsOfChildren
+{
+public:
+    static void mend() { pthread_atfork(blockAll, restore, mendChild); }
+
+private:
+    static sigset_t& earlier()
+    {
+        thread_local sigset_t mask;
+        return mask;
+    }
+    static void blockAll()
+    {
+        sigset_t all;
+        sigfillset(&all);
+        pthread_sigmask(SIG_SETMASK, &all, &earlier());
+    }
+    static void restore() { pthread_sigmask(SIG_SETMASK, &earlier(), nullptr); }
+    static void mendChild()
+    {
+        std::signal(SIGTERM, SIG_DFL);
+        restore();
+    }
+};
+
 // Runs a test class in an application whose data and settings folder is a temporary one, so that no
 // test sees what another left or what the user has.
 template<typename TestClass>
 int runTests(int argc, char* argv[])
 {
     const EndOfTests end;
+    SignalsOfChildren::mend();
     const QTemporaryDir dataFolder;
     qputenv("XDG_DATA_HOME", QFile::encodeName(dataFolder.path()));
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(dataFolder.path()));
