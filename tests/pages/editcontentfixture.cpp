@@ -13,12 +13,10 @@
 #include <QDirIterator>
 #include <QTest>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 namespace
 {
+
+const QString gateName = "gate";
 
 void collect(const Item& folder, QStringList& paths)
 {
@@ -95,30 +93,29 @@ bool EditContentFixture::open(const QStringList& entries)
 
 bool EditContentFixture::openHalfway(const QStringList& entries)
 {
-    setImage(entries, {gate()});
-    const int calls = archiver.calls().size() + 2;
-    startLoading();
-    const bool listed = waitUntilListed();
-    const bool unpacking = QTest::qWaitFor([&] { return archiver.calls().size() == calls; }, 10000);
+    const bool isHalfway = startUnpacking(entries);
     unpack(entries);
-    return listed && unpacking;
+    return isHalfway;
+}
+
+bool EditContentFixture::startUnpacking(const QStringList& entries)
+{
+    setImage(entries, {gate()});
+    startLoading();
+    return waitUntilListed() && archiver.isHeld(gateName);
 }
 
 QString EditContentFixture::gate() const
 {
-    // Whoever opens a pipe for reading waits until it is opened for writing.
-    ::mkfifo(qPrintable(path("gate")), 0600);
-    return "file 4096 " + path("gate");
+    return archiver.holding(gateName);
 }
 
 bool EditContentFixture::openGate() const
 {
-    return QTest::qWaitFor(
-        [this] {
-            const int pipe = ::open(qPrintable(path("gate")), O_WRONLY | O_NONBLOCK);
-            return pipe >= 0 && ::close(pipe) == 0;
-        },
-        10000);
+    if (!archiver.isHeld(gateName))
+        return false;
+    archiver.release(gateName);
+    return true;
 }
 
 Item* EditContentFixture::root() const
@@ -207,7 +204,7 @@ QStringList EditContentFixture::exportTo(const QStringList& names, const QString
 {
     QDir().mkpath(destination);
     tick(names);
-    ModalDriver driver(20000);
+    ModalDriver driver(60000);
     driver.typePath(destination);
     driver.press("CommDialog", "btnok");
     page->OnExport();

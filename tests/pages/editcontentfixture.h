@@ -22,8 +22,11 @@ public:
     bool open(const QStringList& entries = usualEntries());
     // Loads it up to its listing; the archiver is unpacking it until openGate().
     bool openHalfway(const QStringList& entries = usualEntries());
+    // The same with an empty work folder: the test calls unpack() when it wants the files there.
+    bool startUnpacking(const QStringList& entries = usualEntries());
 
-    // The script line by which a tool waits, and what lets it go on. False when none comes to wait.
+    // The script line by which the archiver waits, and what lets it go on, once for all. False when
+    // it does not come to wait.
     QString gate() const;
     bool openGate() const;
 

@@ -26,7 +26,7 @@ public:
 
     // Presses Load ISO and chooses this file, which is made if it is not there.
     void startLoading(const QString& fileName = "image.iso");
-    bool waitUntilListed(int limitMs = 20000) const;
+    bool waitUntilListed(int limitMs = 60000) const;
     // Until the image is unpacked and all changes have been made in the work folder.
     bool waitUntilWorked(int limitMs = 60000) const;
     // All of it, with what `setArchiver` was given.

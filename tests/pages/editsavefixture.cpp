@@ -5,6 +5,7 @@
 
 #include "cimagebutton.h"
 #include "cprogressdialog.h"
+#include "extractpagefixture.h"
 #include "imagemaker.h"
 #include "modaldriver.h"
 #include "processcounts.h"
@@ -17,6 +18,8 @@
 
 namespace
 {
+
+const QString gateName = "unpacking";
 
 void collectPaths(const Item& folder, QStringList& paths)
 {
@@ -51,14 +54,27 @@ std::unique_ptr<HeldFolder> EditSaveFixture::addHeld(qint64 bytes) const
 {
     auto held = std::make_unique<HeldFolder>(path("held"), bytes);
     add({path("held")});
-    if (!QTest::qWaitFor([&held] { return held->isHolding(); }))
+    if (!QTest::qWaitFor([&held] { return held->isHolding(); }, 60000))
         qFatal("The copy has not begun");
     return held;
 }
 
+bool EditSaveFixture::loadHalfway(const QStringList& unpacking)
+{
+    setArchiver(ExtractPageFixture::usualEntries(),
+                QStringList(archiver.holding(gateName)) + unpacking);
+    startLoading();
+    return waitUntilListed() && archiver.isHeld(gateName);
+}
+
+void EditSaveFixture::letUnpack() const
+{
+    archiver.release(gateName);
+}
+
 bool EditSaveFixture::waitForCall(int number) const
 {
-    return QTest::qWaitFor([this, number] { return author.calls().size() == number; }, 10000);
+    return QTest::qWaitFor([this, number] { return author.calls().size() == number; }, 60000);
 }
 
 QString EditSaveFixture::save(const QString& isoPath) const

@@ -24,6 +24,10 @@ public:
     // Adds a folder whose copying is held, see HeldFolder, and waits until it is.
     std::unique_ptr<HeldFolder> addHeld(qint64 bytes) const;
 
+    // Loads an image of the usual entries up to its listing: the archiver is held in the middle of
+    // unpacking it, until letUnpack(), and does then what the script says.
+    bool loadHalfway(const QStringList& unpacking = {});
+    void letUnpack() const;
     // Waits until the authoring tool runs for the so manieth time.
     bool waitForCall(int number) const;
     // A save to this file, from the button to the message; returns the message.

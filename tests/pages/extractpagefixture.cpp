@@ -112,7 +112,7 @@ void ExtractPageFixture::startLoading(const QString& fileName)
 
 bool ExtractPageFixture::waitUntilLoaded() const
 {
-    return QTest::qWaitFor([this] { return button("loadiso")->isEnabled(); }, 10000);
+    return QTest::qWaitFor([this] { return button("loadiso")->isEnabled(); }, 60000);
 }
 
 bool ExtractPageFixture::load(const QStringList& entryLines)
@@ -136,21 +136,9 @@ bool ExtractPageFixture::extractTo(const QString& outputDir,
                                    const QString& lastButton)
 {
     startExtractingTo(outputDir);
-    if (whileRunning)
-        whileRunning();
-    ModalDriver driver(15000);
-    // The progress dialog may or may not be met on the way, depending on how fast the tool is.
-    const std::function<void(QWidget*)> answer = [&](QWidget* dialog) {
-        if (dialog == progress())
-            driver.run("CommDialog", answer);
-        else
-            UserMouse::click(dialog->findChild<QWidget*>(lastButton));
-    };
-    driver.run("CommDialog", answer);
-    const bool done = QTest::qWaitFor([&driver] { return driver.done(); }, 15000) &&
-                      QTest::qWaitFor([] { return !QApplication::activeModalWidget(); });
-    successText = driver.texts().value(driver.texts().size() - 1);
-    return done;
+    const std::function<void()> nothing = [] {};
+    successText = answerMessage(whileRunning ? whileRunning : nothing, lastButton, {});
+    return !successText.isNull();
 }
 
 void ExtractPageFixture::tick(const QStringList& names) const

@@ -5,9 +5,11 @@
 
 #include "cimagebutton.h"
 #include "cprogressdialog.h"
+#include "processcounts.h"
 #include "usermouse.h"
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QLabel>
 #include <QProgressBar>
 #include <QTest>
@@ -87,6 +89,25 @@ QWidget* PageFixture::message()
 {
     QWidget* const dialog = QApplication::activeModalWidget();
     return dialog && !qobject_cast<CProgressDialog*>(dialog) ? dialog : nullptr;
+}
+
+bool PageFixture::waitUntilToolsGone(int limitMs)
+{
+    const auto areGone = [] {
+        return runnerThreadCount() == 0 && childProcesses().isEmpty() &&
+               processesOf("scriptedtool").isEmpty();
+    };
+    const bool gone = QTest::qWaitFor(areGone, limitMs);
+    QCoreApplication::processEvents(); // a runner's last words may have come after the last look
+    return gone;
+}
+
+bool PageFixture::waitUntilAllIsSent(int limitMs)
+{
+    const QDeadlineTimer limit(limitMs);
+    while (runnerThreadCount() > 0 && !limit.hasExpired())
+        QThread::msleep(1);
+    return runnerThreadCount() == 0;
 }
 
 QString PageFixture::waitForMessage(int limitMs) const

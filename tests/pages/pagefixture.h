@@ -35,6 +35,12 @@ public:
     void pressStop() const;
     // The message that is open, as the progress dialog is modal as well.
     static QWidget* message();
+    // Waits until no tool runs and all that their runners have sent has been received: what has not
+    // come by then does not come any more.
+    static bool waitUntilToolsGone(int limitMs = 60000);
+    // Waits for the end of the tools without receiving anything: all that their runners have sent
+    // is on its way then. There has to be a call of the tool already.
+    static bool waitUntilAllIsSent(int limitMs = 60000);
     // Waits for the message that follows every run, closes it and returns its text.
     QString waitForMessage(int limitMs = 60000) const;
     // The same after doing what leads to the message, which may be there before that is done.

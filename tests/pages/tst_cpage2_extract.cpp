@@ -4,6 +4,7 @@
 #include "cimagebutton.h"
 #include "extractpagefixture.h"
 #include "modaldriver.h"
+#include "picture.h"
 #include "startup.h"
 #include "testcase.h"
 #include "testmain.h"
@@ -12,6 +13,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QMenu>
+#include <QPainter>
 
 // From the ticks on the Extract page to the archiver's command line.
 class TstCPage2Extract : public TestCase
@@ -60,10 +62,27 @@ void TstCPage2Extract::cleanup()
 
 void TstCPage2Extract::nothingTickedShowsAMessageAndRunsNothing()
 {
+    QImage shown;
+    QImage expected;
+    QPoint place;
     ModalDriver driver;
-    driver.press("GerneralDialog", "btnok");
+    driver.run("GerneralDialog", [&](QWidget* dialog) {
+        QWidget* const ok = dialog->findChild<QWidget*>("btnok");
+        place = ok->pos() - QPoint((dialog->width() - ok->width()) / 2, 0);
+        for (QWidget* const child : dialog->findChildren<QWidget*>())
+            child->hide();
+        shown = dialog->grab().toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        expected = QImage(dialog->size(), QImage::Format_ARGB32_Premultiplied);
+        ok->show();
+        UserMouse::click(ok);
+    });
     fixture->press("extract");
     QCOMPARE(driver.texts(), QStringList("Please select the files or folders you want to extract"));
+    // In the middle, and on its own picture.
+    QCOMPARE(place, QPoint(0, 130));
+    expected.fill(Qt::transparent);
+    QPainter(&expected).drawPixmap(0, 0, loadPicture(":/nwu/select_files_extract", 1));
+    QCOMPARE(shown, expected);
     QCOMPARE(fixture->tool.calls().size(), 1);
     QVERIFY(fixture->page->isEnabled());
 }

@@ -25,6 +25,7 @@ private slots:
     void init();
     void cleanup();
     void successIsTold();
+    void allIsDoneWhenTheSuccessIsTold();
     void openFolderOpensTheChosenFolder_data();
     void openFolderOpensTheChosenFolder();
     void successIsLogged();
@@ -40,6 +41,7 @@ private slots:
     void entryThatWasNotWrittenIsNoTrouble();
     void otherFilesOfTheUsersStay();
     void secondExtractionFromAnotherFolderWorks();
+    void namelessFirstFolderCostsTheUserNothing();
 
 private:
     // Extracts the ticked entries of the current folder while the archiver writes these files.
@@ -91,6 +93,26 @@ void TstCPage2Finish::successIsTold()
     QVERIFY(openedAddress.isEmpty());
     // The ticks stay, so that the same can go into another folder.
     QCOMPARE(fixture->ticked(), QStringList("readme.txt"));
+}
+
+// The message waits for the user: whatever came after it would wait as well.
+void TstCPage2Finish::allIsDoneWhenTheSuccessIsTold()
+{
+    const LogSwitch log;
+    fixture->enter("boot/grub");
+    fixture->tick({"font.pf2"});
+    fixture->startExtractingTo(outputDir);
+    writeFile(outputDir + "/boot/grub/font.pf2", "font");
+    QStringList found;
+    const auto look = [this, &found] {
+        found = entriesOf(outputDir);
+        found.append(fixture->page->isEnabled() ? "enabled" : "disabled");
+        found.append(fixture->progress()->isVisible() ? "progress" : "no progress");
+        if (LogSwitch::texts().contains("Extract files successfully :" + outputDir))
+            found.append("logged");
+    };
+    QVERIFY(!fixture->answerMessage([] {}, "btnok", look).isNull());
+    QCOMPARE(found, QStringList({"font.pf2", "enabled", "no progress", "logged"}));
 }
 
 void TstCPage2Finish::openFolderOpensTheChosenFolder_data()
@@ -230,6 +252,21 @@ void TstCPage2Finish::secondExtractionFromAnotherFolderWorks()
     fixture->tick({"manual.pdf"});
     QVERIFY(extractWriting({"docs/manual.pdf"}));
     QCOMPARE(entriesOf(outputDir), QStringList({"kernel", "manual.pdf"}));
+}
+
+// An image may list absolute paths. The folder that such a one begins with has no name, and what
+// would be deleted under it is the chosen folder.
+void TstCPage2Finish::namelessFirstFolderCostsTheUserNothing()
+{
+    QVERIFY(fixture->load({ExtractPageFixture::fileLine("/etc/hosts")}));
+    fixture->tool.setScript({});
+    writeFile(outputDir + "/letter.txt", "mine");
+    fixture->doubleClickRow(0);
+    fixture->enter("etc");
+    fixture->tick({"hosts"});
+    QVERIFY(extractWriting({"etc/hosts"}));
+    QCOMPARE(fixture->tool.calls().last().mid(6), QStringList({"/etc/hosts", "-r"}));
+    QCOMPARE(entriesOf(outputDir), QStringList({"etc", "hosts", "letter.txt"}));
 }
 
 KORVEX_TEST_MAIN(TstCPage2Finish)

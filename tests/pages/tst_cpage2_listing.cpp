@@ -9,6 +9,15 @@
 
 #include <QApplication>
 
+// Sends lines as a runner does.
+class LineSender : public QObject
+{
+    Q_OBJECT
+
+signals:
+    void standoutputline(QString line);
+};
+
 // What the Extract page makes of the archiver's lines.
 class TstCPage2Listing : public TestCase
 {
@@ -29,6 +38,7 @@ private slots:
     void listingWithCutLinesArrivesWhole();
     void capturedListingIsShown();
     void linesWithoutARunnerAreReadAsWell();
+    void senderIsReleasedAtTheSecondSeparator();
 
 private:
     QStringList childrenOf(const QString& path) const;
@@ -78,7 +88,7 @@ void TstCPage2Listing::folderAboveAFileIsCreated()
 void TstCPage2Listing::bannerHeaderAndTotalsAddNothing()
 {
     QVERIFY(fixture->load({ExtractPageFixture::fileLine("only.txt")}));
-    QTest::qWait(200); // the totals line comes after the end
+    QVERIFY(PageFixture::waitUntilToolsGone()); // the totals line comes after the end
     QCOMPARE(fixture->shownNames(), QStringList("only.txt"));
     fixture->clickNode(fixture->topNode());
     QCOMPARE(fixture->shownNames(), QStringList("only.txt"));
@@ -104,7 +114,7 @@ void TstCPage2Listing::nameWithNineteenDashesIsTakenForTheEnd()
                            ExtractPageFixture::fileLine(QString(19, '-') + ".txt"),
                            ExtractPageFixture::fileLine("after")}));
     QCOMPARE(fixture->shownNames(), QStringList("before"));
-    QTest::qWait(200); // the rest of the listing
+    QVERIFY(PageFixture::waitUntilToolsGone()); // the rest of the listing
     QVERIFY(fixture->button("loadiso")->isEnabled());
     // The next image is read from its beginning, however the last one ended.
     QVERIFY(fixture->load());
@@ -174,6 +184,23 @@ void TstCPage2Listing::linesWithoutARunnerAreReadAsWell()
         fixture->page->OnLineOutput(line + "\n");
     QCOMPARE(fixture->shownNames(), QStringList("a.txt"));
     QVERIFY(debugLines().contains("finished unzip"));
+}
+
+void TstCPage2Listing::senderIsReleasedAtTheSecondSeparator()
+{
+    QPointer<LineSender> sender = new LineSender;
+    connect(sender, SIGNAL(standoutputline(QString)), fixture->page, SLOT(OnLineOutput(QString)));
+    for (const QString& line :
+         {ExtractPageFixture::separatorLine(), ExtractPageFixture::fileLine("a.txt")}) {
+        emit sender->standoutputline(line);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY2(sender, "there are lines to come");
+    }
+    emit sender->standoutputline(ExtractPageFixture::separatorLine());
+    QVERIFY2(sender, "deleted while it sends its signal");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!sender);
+    QCOMPARE(fixture->shownNames(), QStringList("a.txt"));
 }
 
 KORVEX_TEST_MAIN(TstCPage2Listing)

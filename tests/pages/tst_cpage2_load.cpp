@@ -38,6 +38,8 @@ private slots:
     void missingToolLeavesThePageBusy();
     void everyRunnerIsFreed();
     void pageMayGoWhileTheListingRuns();
+    void secondListingEndsTheFirst();
+    void linesOfTheFirstListingOnTheirWayAreIgnoredInTheSecond();
 
 private:
     bool isBusy() const;
@@ -147,10 +149,11 @@ void TstCPage2Load::clicksOnTheEmptyViewsAreHarmlessWhileTheListingRuns()
 {
     QVERIFY(fixture->load());
     fixture->clickNode(fixture->topNode()->child(0));
-    fixture->tool.setScript({"out " + ExtractPageFixture::separatorLine() + "\\n",
-                             "out " + ExtractPageFixture::fileLine("a/b") + "\\n", "sleep 60000"});
+    fixture->tool.setScript({"sleep 60000"});
     fixture->startLoading();
-    QTest::qWait(500);
+    for (const QString& line :
+         {ExtractPageFixture::separatorLine(), ExtractPageFixture::fileLine("a/b")})
+        fixture->page->OnLineOutput(line);
     UserMouse::press(fixture->tree(), {50, 40});
     UserMouse::release(fixture->tree(), {50, 40});
     UserMouse::press(fixture->table(), {50, 60});
@@ -212,9 +215,8 @@ void TstCPage2Load::toolWithoutSeparatorsLeavesThePageBusy()
     QFETCH(QStringList, script);
     fixture->tool.setScript(script);
     fixture->startLoading();
-    QVERIFY(QTest::qWaitFor(
-        [this] { return fixture->tool.calls().size() == 1 && runnerThreadCount() == 0; }, 10000));
-    QTest::qWait(50);
+    QVERIFY(PageFixture::waitUntilToolsGone());
+    QCOMPARE(fixture->tool.calls().size(), 1);
     QVERIFY(isBusy());
     QCOMPARE(fixture->tree()->topLevelItemCount(), 0);
 }
@@ -224,8 +226,7 @@ void TstCPage2Load::missingToolLeavesThePageBusy()
     const QString away = ExtractPageFixture::toolPath() + ".away";
     QVERIFY(QFile::rename(ExtractPageFixture::toolPath(), away));
     fixture->startLoading();
-    const bool ended = QTest::qWaitFor([] { return runnerThreadCount() == 0; }, 10000);
-    QTest::qWait(50);
+    const bool ended = PageFixture::waitUntilToolsGone();
     QVERIFY(QFile::rename(away, ExtractPageFixture::toolPath()));
     QVERIFY(ended);
     QVERIFY(isBusy());
@@ -234,22 +235,59 @@ void TstCPage2Load::missingToolLeavesThePageBusy()
 void TstCPage2Load::everyRunnerIsFreed()
 {
     QVERIFY(fixture->load());
-    QTest::qWait(500);
+    QVERIFY(PageFixture::waitUntilToolsGone());
     const int descriptors = descriptorCount();
     for (int i = 0; i < 3; ++i)
         QVERIFY(fixture->load());
-    QVERIFY(QTest::qWaitFor([] { return runnerThreadCount() == 0; }, 5000));
-    QVERIFY(QTest::qWaitFor([descriptors] { return descriptorCount() <= descriptors; }, 5000));
-    QVERIFY(childProcesses().isEmpty());
+    QVERIFY(PageFixture::waitUntilToolsGone());
+    QVERIFY(QTest::qWaitFor([descriptors] { return descriptorCount() <= descriptors; }, 60000));
 }
 
 void TstCPage2Load::pageMayGoWhileTheListingRuns()
 {
-    fixture->tool.setScript({"lines 1000 line", "sleep 60000"});
+    fixture->tool.setScript({"lines 1000 line", fixture->tool.holding("listing")});
     fixture->startLoading();
-    QVERIFY(QTest::qWaitFor([this] { return fixture->tool.calls().size() == 1; }));
+    QVERIFY(fixture->tool.isHeld("listing"));
     delete fixture->page;
-    QVERIFY(QTest::qWaitFor([] { return processesOf("scriptedtool").isEmpty(); }));
+    QVERIFY(PageFixture::waitUntilToolsGone());
+}
+
+// Which the page's button does not allow, as it is disabled meanwhile.
+void TstCPage2Load::secondListingEndsTheFirst()
+{
+    fixture->tool.setScript({fixture->tool.holding("first")});
+    fixture->startLoading("first.iso");
+    QVERIFY(fixture->tool.isHeld("first"));
+    QVERIFY(fixture->load({ExtractPageFixture::fileLine("second.txt")}));
+    QCOMPARE(fixture->shownNames(), QStringList("second.txt"));
+    // Though nobody has released it.
+    QVERIFY(PageFixture::waitUntilToolsGone());
+}
+
+// They are sent between the choice of the second image and the start of its listing.
+void TstCPage2Load::linesOfTheFirstListingOnTheirWayAreIgnoredInTheSecond()
+{
+    fixture->tool.setScript({fixture->tool.holding("first"),
+                             "out " + ExtractPageFixture::separatorLine() + "\\n",
+                             "out " + ExtractPageFixture::fileLine("first.txt") + "\\n"});
+    fixture->startLoading("first.iso");
+    QVERIFY(fixture->tool.isHeld("first"));
+    fixture->setListing({ExtractPageFixture::fileLine("second.txt")});
+    writeFile(fixture->isoPath, "image");
+    bool isSent = false;
+    ModalDriver driver;
+    driver.run("QFileDialog", [this, &isSent](QWidget* dialog) {
+        dialog->findChild<QLineEdit*>("fileNameEdit")->setText(fixture->isoPath);
+        connect(static_cast<QDialog*>(dialog), &QDialog::finished, dialog, [this, &isSent] {
+            fixture->tool.release("first");
+            isSent = PageFixture::waitUntilAllIsSent();
+        });
+        QMetaObject::invokeMethod(dialog, "accept");
+    });
+    fixture->page->OnLoadISO();
+    QVERIFY(isSent);
+    QVERIFY(fixture->waitUntilLoaded());
+    QCOMPARE(fixture->shownNames(), QStringList("second.txt"));
 }
 
 KORVEX_TEST_MAIN(TstCPage2Load)

@@ -22,6 +22,7 @@ private slots:
     void cleanup();
     void clickTogglesTheTickOnceWhereverItIs_data();
     void clickTogglesTheTickOnceWhereverItIs();
+    void pageTogglesOnlyBesideTheTick();
     void clickInAnyColumnTogglesTheRow_data();
     void clickInAnyColumnTogglesTheRow();
     void clickInAScrolledTableTogglesItsRow();
@@ -97,6 +98,17 @@ void TstCPage2Mouse::clickTogglesTheTickOnceWhereverItIs()
             wrong.append(QString::number(x));
     }
     QVERIFY2(wrong.isEmpty(), qPrintable("no single toggle at x " + wrong.join(' ')));
+}
+
+void TstCPage2Mouse::pageTogglesOnlyBesideTheTick()
+{
+    QTableWidgetItem* const cell = fixture->table()->item(0, 0);
+    for (int x = 0; x <= 40; ++x) {
+        cell->setCheckState(Qt::Unchecked);
+        UserMouse::move(fixture->table(), {x, 100});
+        fixture->page->OnListViewClicked(cell);
+        QCOMPARE(cell->checkState(), x > 16 ? Qt::Checked : Qt::Unchecked);
+    }
 }
 
 void TstCPage2Mouse::clickInAnyColumnTogglesTheRow_data()

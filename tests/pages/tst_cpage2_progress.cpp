@@ -12,6 +12,7 @@
 #include "usermouse.h"
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QLoggingCategory>
 
 // While the archiver extracts: what its lines do to the progress dialog, and Stop.
@@ -24,9 +25,7 @@ private slots:
     void init();
     void cleanup();
     void pageIsDisabledWhileTheArchiverRuns();
-    void progressLineMovesTheBar_data();
     void progressLineMovesTheBar();
-    void lineWithoutProgressChangesNothing_data();
     void lineWithoutProgressChangesNothing();
     void progressNeverRunsBackwardsOrBeyondItsEnd();
     void progressDrawnInPlaceArrivesWhileTheArchiverRuns();
@@ -38,9 +37,12 @@ private slots:
     void extractionAfterStopStartsAnew();
     void stopWithoutAnExtractionIsHarmless();
     void pageMayGoWhileTheArchiverRuns();
+    void secondExtractionEndsTheFirst();
 
 private:
     void startEndlessExtraction();
+    // The archiver has run to its end, and all that its runner has sent is on its way to the page.
+    void extractWithoutReceiving();
     void pressStop();
 
     std::unique_ptr<ExtractPageFixture> fixture;
@@ -73,7 +75,17 @@ void TstCPage2Progress::startEndlessExtraction()
     fixture->tool.setScript({"sleep 60000"});
     fixture->tick({"readme.txt"});
     fixture->startExtractingTo(outputDir);
-    QVERIFY(QTest::qWaitFor([this] { return fixture->tool.calls().size() == 2; }));
+    QVERIFY(QTest::qWaitFor([this] { return fixture->tool.calls().size() == 2; }, 60000));
+}
+
+void TstCPage2Progress::extractWithoutReceiving()
+{
+    fixture->tick({"readme.txt"});
+    fixture->startExtractingTo(outputDir);
+    const QDeadlineTimer limit(60000);
+    while (fixture->tool.calls().size() < 2 && !limit.hasExpired())
+        QThread::msleep(1);
+    QVERIFY(PageFixture::waitUntilAllIsSent());
 }
 
 void TstCPage2Progress::pressStop()
@@ -94,57 +106,40 @@ void TstCPage2Progress::pageIsDisabledWhileTheArchiverRuns()
     QCOMPARE(fixture->ticked(), QStringList("readme.txt"));
 }
 
-void TstCPage2Progress::progressLineMovesTheBar_data()
-{
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<int>("value");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("with its number of entries")
-        << " 45% 12 - boot/grub/font.pf2" << 45 << "Extracting files: boot/grub/font.pf2";
-    QTest::newRow("rest of another line in front")
-        << "Everything 7% 1 - a.txt" << 7 << "Extracting files: a.txt";
-    QTest::newRow("drawn over the last one")
-        << " 35% 1 - f2\b\b\b\b\b\b\b\b\b\b\b           \b\b\b\b\b\b\b\b\b\b\b 54% 1 - f2" << 54
-        << "Extracting files: f2";
-    QTest::newRow("dashes in the name")
-        << " 5% 1 - a - b.txt" << 5 << "Extracting files: a - b.txt";
-    QTest::newRow("Unicode") << QString::fromUtf8(" 5% 1 - файл 日本") << 5
-                             << QString::fromUtf8("Extracting files: файл 日本");
-    QTest::newRow("99") << " 99% 1 - a.txt" << 99 << "Extracting files: a.txt";
-    QTest::newRow("100") << " 100% 12 - a.txt" << 100
-                         << "Copying files! Please wait a few seconds..";
-}
-
 void TstCPage2Progress::progressLineMovesTheBar()
 {
+    struct Step
+    {
+        QString line;
+        int value;
+        QString text;
+    };
+    const QList<Step> steps{
+        {QString::fromUtf8(" 5% 1 - файл - 日本"), 5,
+         QString::fromUtf8("Extracting files: файл - 日本")},
+        {"Everything 7% 1 - a.txt", 7, "Extracting files: a.txt"},
+        {" 45% 12 - boot/grub/font.pf2", 45, "Extracting files: boot/grub/font.pf2"},
+        {" 99% 1 - a.txt", 99, "Extracting files: a.txt"},
+        {" 100% 12 - a.txt", 100, "Copying files! Please wait a few seconds.."}};
     startEndlessExtraction();
-    QFETCH(QString, line);
-    fixture->page->OnExtractOutput(line);
-    QTEST(fixture->progressValue(), "value");
-    QTEST(fixture->progressText(), "text");
-    QVERIFY(fixture->progress()->isVisible());
-}
-
-void TstCPage2Progress::lineWithoutProgressChangesNothing_data()
-{
-    QTest::addColumn<QString>("line");
-    QTest::newRow("no entry") << " 45% 12";
-    QTest::newRow("no percent") << "- boot/grub/font.pf2";
-    QTest::newRow("percent without blank") << " 45%12 - a.txt";
-    QTest::newRow("percent in front") << "% 12 - a.txt";
-    QTest::newRow("no number") << "  % 12 - a.txt";
-    QTest::newRow("empty") << "";
-    QTest::newRow("end") << "Everything is Ok";
+    for (const Step& step : steps) {
+        fixture->page->OnExtractOutput(step.line);
+        QCOMPARE(fixture->progressValue(), step.value);
+        QCOMPARE(fixture->progressText(), step.text);
+        QVERIFY(fixture->progress()->isVisible());
+    }
 }
 
 void TstCPage2Progress::lineWithoutProgressChangesNothing()
 {
     startEndlessExtraction();
     fixture->page->OnExtractOutput(" 20% 1 - before.txt");
-    QFETCH(QString, line);
-    fixture->page->OnExtractOutput(line);
-    QCOMPARE(fixture->progressValue(), 20);
-    QCOMPARE(fixture->progressText(), QString("Extracting files: before.txt"));
+    for (const char* const line : {" 45% 12", "- boot/grub/font.pf2", " 45%12 - a.txt",
+                                   "% 12 - a.txt", "  % 12 - a.txt", "", "Everything is Ok"}) {
+        fixture->page->OnExtractOutput(line);
+        QCOMPARE(fixture->progressValue(), 20);
+        QCOMPARE(fixture->progressText(), QString("Extracting files: before.txt"));
+    }
 }
 
 void TstCPage2Progress::progressNeverRunsBackwardsOrBeyondItsEnd()
@@ -162,12 +157,14 @@ void TstCPage2Progress::progressNeverRunsBackwardsOrBeyondItsEnd()
 void TstCPage2Progress::progressDrawnInPlaceArrivesWhileTheArchiverRuns()
 {
     const QString back = QString("\\b").repeated(11);
-    fixture->tool.setScript({"err  35% 1 - f2", "sleep 50",
+    fixture->tool.setScript({"err  35% 1 - f2", fixture->tool.holding("35"),
                              "err " + back + QString(11, ' ') + back + " 54% 1 - f2",
                              "sleep 60000"});
     fixture->tick({"readme.txt"});
     fixture->startExtractingTo(outputDir);
-    QVERIFY(QTest::qWaitFor([this] { return fixture->progressValue() == 54; }, 10000));
+    QTRY_COMPARE_WITH_TIMEOUT(fixture->progressValue(), 35, 60000);
+    fixture->tool.release("35");
+    QTRY_COMPARE_WITH_TIMEOUT(fixture->progressValue(), 54, 60000);
     QCOMPARE(fixture->progressText(), QString("Extracting files: f2"));
 }
 
@@ -175,11 +172,15 @@ void TstCPage2Progress::stopEndsTheArchiverWithoutAMessage()
 {
     startEndlessExtraction();
     writeFile(outputDir + "/part.bin", "kept");
+    bool isHiddenAtStop = false;
+    connect(fixture->progress(), &CProgressDialog::SigCancel, this,
+            [&] { isHiddenAtStop = !fixture->progress()->isVisible(); });
+    const ModalDriver noMessage;
     pressStop();
+    QVERIFY(isHiddenAtStop);
     QVERIFY(!fixture->progress()->isVisible());
     QVERIFY(fixture->page->isEnabled());
-    QVERIFY(QTest::qWaitFor([] { return processesOf("scriptedtool").isEmpty(); }));
-    QTest::qWait(400); // longer than the end of a run takes to be told
+    QVERIFY(PageFixture::waitUntilToolsGone());
     QVERIFY(!QApplication::activeModalWidget());
     QVERIFY(fixture->page->isEnabled());
     QCOMPARE(readFile(outputDir + "/part.bin"), QByteArray("kept"));
@@ -191,23 +192,21 @@ void TstCPage2Progress::escapeInTheProgressDialogIsStop()
     QTest::keyClick(fixture->progress(), Qt::Key_Escape);
     QVERIFY(!fixture->progress()->isVisible());
     QVERIFY(fixture->page->isEnabled());
-    QVERIFY(QTest::qWaitFor([] { return processesOf("scriptedtool").isEmpty(); }));
+    QVERIFY(PageFixture::waitUntilToolsGone());
 }
 
 // The archiver ignores the polite stop and goes on writing until it is killed.
 void TstCPage2Progress::linesAfterStopAreIgnored()
 {
-    QStringList script{"ignore-term"};
-    for (int percent = 10; percent < 60; ++percent)
-        script += {QString("out  %1% 1 - f\\n").arg(percent), "sleep 20"};
-    fixture->tool.setScript(script + QStringList("sleep 60000"));
+    fixture->tool.setScript({"ignore-term", "out  10% 1 - f\\n", fixture->tool.holding("10"),
+                             "out  20% 1 - f\\n", "sleep 60000"});
     fixture->tick({"readme.txt"});
     fixture->startExtractingTo(outputDir);
-    QVERIFY(QTest::qWaitFor([this] { return fixture->progressValue() >= 10; }));
+    QTRY_COMPARE_WITH_TIMEOUT(fixture->progressValue(), 10, 60000);
     pressStop();
-    const int value = fixture->progressValue();
-    QVERIFY(QTest::qWaitFor([] { return processesOf("scriptedtool").isEmpty(); }));
-    QCOMPARE(fixture->progressValue(), value);
+    fixture->tool.release("10");
+    QVERIFY(PageFixture::waitUntilToolsGone());
+    QCOMPARE(fixture->progressValue(), 10);
     QVERIFY(!fixture->progress()->isVisible());
     QVERIFY(fixture->page->isEnabled());
 }
@@ -216,12 +215,11 @@ void TstCPage2Progress::linesAfterStopAreIgnored()
 void TstCPage2Progress::linesOnTheirWayAreIgnoredAfterStop()
 {
     QLoggingCategory::setFilterRules("korvex.tooloutput.debug=true");
-    fixture->tool.setScript({"lines 50  45% 1 - f", "sleep 60000"});
-    fixture->tick({"readme.txt"});
-    fixture->startExtractingTo(outputDir);
-    QThread::msleep(1000);
+    fixture->tool.setScript({"lines 50  45% 1 - f"});
+    extractWithoutReceiving();
+    const ModalDriver noMessage;
     QVERIFY(QMetaObject::invokeMethod(fixture->progress(), "OnBtnCancel"));
-    QTest::qWait(100);
+    QVERIFY(PageFixture::waitUntilToolsGone());
     QLoggingCategory::setFilterRules({});
     QVERIFY(debugLines().join(' ').contains("CPage2::OnExtractOutput")); // they did come
     QCOMPARE(fixture->progressValue(), 0);
@@ -230,13 +228,10 @@ void TstCPage2Progress::linesOnTheirWayAreIgnoredAfterStop()
 
 void TstCPage2Progress::endOnItsWayIsIgnoredAfterStop()
 {
-    fixture->tool.setScript({});
-    fixture->tick({"readme.txt"});
-    fixture->startExtractingTo(outputDir);
-    QThread::msleep(1000);
-    const ModalDriver driver; // fails for any message
+    extractWithoutReceiving();
+    const ModalDriver noMessage;
     QVERIFY(QMetaObject::invokeMethod(fixture->progress(), "OnBtnCancel"));
-    QTest::qWait(300);
+    QVERIFY(PageFixture::waitUntilToolsGone());
     QCOMPARE(fixture->tool.calls().size(), 2);
     QVERIFY(fixture->page->isEnabled());
 }
@@ -270,7 +265,17 @@ void TstCPage2Progress::pageMayGoWhileTheArchiverRuns()
     startEndlessExtraction();
     delete fixture->page;
     QVERIFY(!fixture->progress());
-    QVERIFY(QTest::qWaitFor([] { return processesOf("scriptedtool").isEmpty(); }));
+    QVERIFY(PageFixture::waitUntilToolsGone());
+}
+
+// Which the disabled page does not allow the user.
+void TstCPage2Progress::secondExtractionEndsTheFirst()
+{
+    startEndlessExtraction();
+    fixture->tool.setScript({});
+    QVERIFY(fixture->extractTo(outputDir));
+    QVERIFY(PageFixture::waitUntilToolsGone());
+    QCOMPARE(fixture->tool.calls().size(), 3);
 }
 
 KORVEX_TEST_MAIN(TstCPage2Progress)

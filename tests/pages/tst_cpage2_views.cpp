@@ -11,6 +11,7 @@
 #include "testcase.h"
 #include "testmain.h"
 #include "textfit.h"
+#include "viewlook.h"
 
 #include <QAction>
 #include <QLabel>
@@ -35,6 +36,7 @@ private slots:
     void tableHasFourColumnsOfTheseWidths();
     void sizeHeaderKeepsItsLeadingBlank();
     void tableSelectsWholeRowsAndIsNotEdited();
+    void viewsHaveTheirColoursAndLetters();
     void longNamesStayInOneLine();
     void treeAllowsOneSelection();
     void viewsAreEmptyBeforeALoad();
@@ -168,6 +170,12 @@ void TstCPage2Views::tableSelectsWholeRowsAndIsNotEdited()
     QVERIFY(table->verticalHeader()->isHidden());
     QCOMPARE(table->font().pixelSize(), 14);
     QCOMPARE(table->font().weight(), int(QFont::Normal));
+}
+
+void TstCPage2Views::viewsHaveTheirColoursAndLetters()
+{
+    QVERIFY(fixture->load());
+    checkViewLook(fixture->tree(), fixture->table());
 }
 
 // Two lines would show the first one alone, like another name.

@@ -3,11 +3,13 @@
 
 #include "cprogressdialog.h"
 #include "editcontentfixture.h"
+#include "heldfolder.h"
 #include "modaldriver.h"
 #include "startup.h"
 #include "testcase.h"
 #include "testfiles.h"
 #include "testmain.h"
+#include "trigger.h"
 
 #include <QDir>
 
@@ -25,6 +27,9 @@ private slots:
     void stopWhileUnpackingStopsSilentlyAfterTheWait();
     void afterACancelledSaveCopiesAreMadeWithoutAMessage();
     void stopDuringTheCopyDropsTheRest();
+    void rowsAreCopiedInTheirOrder();
+    void allIsDoneWhenTheSuccessIsTold();
+    void nothingToCopySkipsTheCopyText();
     void debugLinesTellTheCopying();
     void pageClosedWhileItWaitsIsFreed();
 
@@ -77,7 +82,6 @@ void TstCPage4ExportWait::whileUnpackingItWaitsAndGoesOn()
     driver.typePath(target);
     driver.run("CProgressDialog", [&](QWidget*) {
         text = fixture->progressText();
-        QTest::qWait(50);
         value = fixture->progressValue();
         QVERIFY(entriesOf(target).isEmpty());
         QVERIFY(fixture->openGate());
@@ -128,26 +132,78 @@ void TstCPage4ExportWait::afterACancelledSaveCopiesAreMadeWithoutAMessage()
 void TstCPage4ExportWait::stopDuringTheCopyDropsTheRest()
 {
     QVERIFY(fixture->open());
-    // A copy that takes a while.
-    QFile kernel(fixture->workFolder() + "/boot/kernel");
-    QVERIFY(kernel.open(QIODevice::ReadWrite) && kernel.resize(400'000'000));
+    HeldFolder held(fixture->workFolder() + "/boot", 1000);
+    bool isHiddenAtStop = false;
+    connect(fixture->progress(), &CProgressDialog::SigCancel, this,
+            [&] { isHiddenAtStop = !fixture->progress()->isVisible(); });
     fixture->tick({"boot", "readme.txt"});
     ModalDriver driver;
     driver.typePath(target);
-    driver.run("CProgressDialog", [this](QWidget*) {
-        QVERIFY(QTest::qWaitFor([this] { return QFile::exists(target + "/boot/kernel"); }));
+    driver.run("CProgressDialog", [&](QWidget*) {
+        QVERIFY(QTest::qWaitFor([&held] { return held.isHolding(); }, 60000));
         fixture->pressStop();
+        held.release();
     });
     fixture->page->OnExport();
+    QVERIFY(isHiddenAtStop);
     QVERIFY(fixture->waitUntilWorked());
     QVERIFY(!fixture->progress()->isVisible());
-    QVERIFY(!QFile::exists(target + "/readme.txt"));
+    QCOMPARE(entriesOf(target), QStringList("boot"));
+}
+
+// While the first is being copied, none of the others is there.
+void TstCPage4ExportWait::rowsAreCopiedInTheirOrder()
+{
+    QVERIFY(fixture->open({"boot/", "a.txt", "b.txt"}));
+    HeldFolder held(fixture->workFolder() + "/boot", 1000);
+    QStringList early;
+    const Trigger look([&held] { return held.isHolding(); },
+                       [&] {
+                           early = entriesOf(target);
+                           held.release();
+                       });
+    fixture->exportTo({"b.txt", "a.txt", "boot"}, target);
+    QVERIFY(look.hasFired());
+    QCOMPARE(early, QStringList("boot"));
+    QCOMPARE(entriesOf(target), QStringList({"a.txt", "b.txt", "boot"}));
+}
+
+// The message waits for the user: whatever came after it would wait as well.
+void TstCPage4ExportWait::allIsDoneWhenTheSuccessIsTold()
+{
+    QVERIFY(fixture->open());
+    fixture->tick({"readme.txt"});
+    QStringList found;
+    ModalDriver driver;
+    driver.typePath(target);
+    driver.run("CommDialog", [&](QWidget* dialog) {
+        found = entriesOf(target);
+        found.append(fixture->page->isEnabled() ? "enabled" : "disabled");
+        found.append(fixture->progress()->isVisible() ? "progress" : "no progress");
+        dialog->close();
+    });
+    fixture->page->OnExport();
+    QCOMPARE(found, QStringList({"readme.txt", "enabled", "no progress"}));
+}
+
+void TstCPage4ExportWait::nothingToCopySkipsTheCopyText()
+{
+    QVERIFY(fixture->open());
+    const QString song = fixture->makeFile("music/song.mp3");
+    fixture->add({song});
+    QVERIFY(fixture->waitUntilWorked());
+    // It lies there already.
+    const QStringList texts = fixture->exportTo({"song.mp3"}, fixture->path("music"));
+    QCOMPARE(texts.value(1), QString("Export Successfully !"));
+    QVERIFY(fixture->progressText() != "Copy files and directories...");
 }
 
 void TstCPage4ExportWait::debugLinesTellTheCopying()
 {
     QVERIFY(fixture->open());
-    writeFile(fixture->workFolder() + "/boot/kernel", QByteArray(50'000'000, 'x'));
+    HeldFolder held(fixture->workFolder() + "/boot", 1000);
+    const Trigger release([] { return !debugLines().filter("CPage4::OnCreate ").isEmpty(); },
+                          [&held] { held.release(); });
     fixture->exportTo({"boot"}, target);
     QCOMPARE(debugLines().filter("file copy finished!!!").size(), 1);
     const QStringList turns = debugLines().filter("CPage4::OnCreate ");
@@ -159,7 +215,7 @@ void TstCPage4ExportWait::pageClosedWhileItWaitsIsFreed()
 {
     QVERIFY(fixture->openHalfway());
     startExport("boot", [this] { fixture->page->close(); });
-    QVERIFY(QTest::qWaitFor([this] { return fixture->page.isNull(); }));
+    QVERIFY(QTest::qWaitFor([this] { return fixture->page.isNull(); }, 60000));
     QVERIFY(entriesOf(target).isEmpty());
 }
 

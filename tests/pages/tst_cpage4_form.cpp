@@ -12,6 +12,7 @@
 #include "testcase.h"
 #include "testmain.h"
 #include "usermouse.h"
+#include "viewlook.h"
 
 #include <QAction>
 #include <QLabel>
@@ -36,6 +37,7 @@ private slots:
     void viewsLieWhereTheyShould();
     void tableHasFourColumnsOfTheseWidthsAndTexts();
     void tableSelectsWholeRowsAndIsNotEdited();
+    void viewsHaveTheirColoursAndLetters();
     void viewsAreEmptyBeforeALoad();
     void menuHasItsEntries();
     void menuComesUpAtTheMouse();
@@ -194,6 +196,12 @@ void TstCPage4Form::tableSelectsWholeRowsAndIsNotEdited()
     QCOMPARE(fixture->tree()->selectionMode(), QAbstractItemView::SingleSelection);
 }
 
+void TstCPage4Form::viewsHaveTheirColoursAndLetters()
+{
+    QVERIFY(fixture->open());
+    checkViewLook(fixture->tree(), fixture->table());
+}
+
 void TstCPage4Form::viewsAreEmptyBeforeALoad()
 {
     QCOMPARE(fixture->table()->rowCount(), 0);
@@ -280,7 +288,7 @@ void TstCPage4Form::escapeDoesNotCloseThePage()
 void TstCPage4Form::backClosesThePageForGood()
 {
     fixture->press("back");
-    QVERIFY(QTest::qWaitFor([this] { return fixture->page.isNull(); }));
+    QVERIFY(QTest::qWaitFor([this] { return fixture->page.isNull(); }, 60000));
 }
 
 KORVEX_TEST_MAIN(TstCPage4Form)

@@ -133,10 +133,10 @@ void TstCPage4Load::cancelledDialogEmptiesTheWorkFolderAllTheSame()
 {
     QVERIFY(fixture->open());
     bool emptiedBefore = false;
-    ModalDriver driver;
+    ModalDriver driver(90000);
     driver.run("QFileDialog", [&](QWidget* dialog) {
         emptiedBefore =
-            QTest::qWaitFor([this] { return entriesOf(fixture->workFolder()).isEmpty(); });
+            QTest::qWaitFor([this] { return entriesOf(fixture->workFolder()).isEmpty(); }, 60000);
         dialog->close();
     });
     fixture->press("loadiso");
@@ -205,13 +205,11 @@ void TstCPage4Load::failedListingLeavesThePageDisabled()
     QFETCH(QStringList, script);
     fixture->archiver.setScript(script);
     fixture->startLoading();
-    QVERIFY(QTest::qWaitFor(
-        [this] { return fixture->archiver.calls().size() == 2 && runnerThreadCount() == 0; },
-        30000));
-    QTest::qWait(50);
+    QVERIFY(fixture->waitUntilWorked()); // the unpacking has ended, however
+    QVERIFY(PageFixture::waitUntilToolsGone());
+    QCOMPARE(fixture->archiver.calls().size(), 2);
     QVERIFY(isBusy());
     QCOMPARE(fixture->tree()->topLevelItemCount(), 0);
-    QVERIFY(fixture->waitUntilWorked()); // the unpacking has ended, however
 }
 
 void TstCPage4Load::missingToolLeavesThePageDisabled()
@@ -219,8 +217,7 @@ void TstCPage4Load::missingToolLeavesThePageDisabled()
     const QString tool = ExtractPageFixture::toolPath();
     QVERIFY(QFile::rename(tool, tool + ".away"));
     fixture->startLoading();
-    const bool ended = fixture->waitUntilWorked(10000);
-    QTest::qWait(50);
+    const bool ended = fixture->waitUntilWorked() && PageFixture::waitUntilToolsGone();
     QVERIFY(QFile::rename(tool + ".away", tool));
     QVERIFY(ended);
     QVERIFY(isBusy());
@@ -260,13 +257,15 @@ void TstCPage4Load::bootImageIsReplacedOnEveryLoad()
 
 void TstCPage4Load::pageClosedWhileListingIsFreedAndEndsTheTool()
 {
-    fixture->archiver.setScript({"sleep 60000"});
+    fixture->archiver.setScript({"only l", fixture->archiver.holding("listing"), "only x",
+                                 fixture->archiver.holding("unpacking")});
     fixture->startLoading();
-    QVERIFY(QTest::qWaitFor([this] { return fixture->archiver.calls().size() == 2; }));
+    QVERIFY(fixture->archiver.isHeld("listing"));
+    QVERIFY(fixture->archiver.isHeld("unpacking"));
     fixture->page->close();
     QVERIFY(!QApplication::overrideCursor());
-    QVERIFY(QTest::qWaitFor([this] { return fixture->page.isNull(); }));
-    QVERIFY(QTest::qWaitFor([] { return processesOf("scriptedtool").isEmpty(); }));
+    QVERIFY(QTest::qWaitFor([this] { return fixture->page.isNull(); }, 60000));
+    QVERIFY(PageFixture::waitUntilToolsGone());
 }
 
 void TstCPage4Load::secondListingTakesOverFromTheFirst()
@@ -276,17 +275,23 @@ void TstCPage4Load::secondListingTakesOverFromTheFirst()
     const auto entry = [](const QString& name) {
         return "out " + ExtractPageFixture::fileLine(name) + "\\n";
     };
+    fixture->archiver.setScript({"only l", separator, entry("one"),
+                                 fixture->archiver.holding("first"), entry("late"), separator,
+                                 "sleep 60000", "only x", fixture->archiver.holding("unpacking")});
+    fixture->startLoading();
+    QVERIFY(fixture->archiver.isHeld("first"));
+    QVERIFY(fixture->archiver.isHeld("unpacking"));
     fixture->archiver.setScript(
-        {"only l", separator, entry("one"), "sleep 500", entry("late"), separator, "sleep 60000"});
+        {"only l", separator, entry("two"), fixture->archiver.holding("second"), separator});
     fixture->startLoading();
-    QVERIFY(QTest::qWaitFor([this] { return fixture->archiver.calls().size() == 2; }));
-    fixture->archiver.setScript({"only l", separator, entry("two"), "sleep 1000", separator});
-    fixture->startLoading();
+    QVERIFY(fixture->archiver.isHeld("second"));
+    fixture->archiver.release("first");
+    fixture->archiver.release("second");
     QVERIFY(fixture->waitUntilListed());
     QCOMPARE(fixture->modelPaths(), QStringList("two"));
     QCOMPARE(fixture->shownNames(), QStringList("two"));
-    // None is left that lists the first.
-    QVERIFY(QTest::qWaitFor([] { return processesOf("scriptedtool").isEmpty(); }));
+    // None is left that lists or unpacks the first.
+    QVERIFY(PageFixture::waitUntilToolsGone());
 }
 
 KORVEX_TEST_MAIN(TstCPage4Load)

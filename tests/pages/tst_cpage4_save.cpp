@@ -1,9 +1,12 @@
 // Copyright (c) 2026 The Korvex ISO Editor developers
 // SPDX-License-Identifier: MIT
 
+#include "cimagebutton.h"
+#include "cprogressdialog.h"
 #include "editsavefixture.h"
 #include "extractpagefixture.h"
 #include "modaldriver.h"
+#include "processcounts.h"
 #include "startup.h"
 #include "testcase.h"
 #include "testfiles.h"
@@ -11,6 +14,12 @@
 #include "util.h"
 
 #include <QDesktopServices>
+
+#include <atomic>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
 
 namespace
 {
@@ -43,10 +52,12 @@ private slots:
     void cancelledDialogIsSilent();
     void argumentsWithoutBootFile();
     void argumentsWithBootFileWhichIsInTheRootBeforeTheToolStarts();
+    void bootFileIsCopiedBeforeTheToolIsStarted();
     void bootFileReplacesTheImagesOwn();
     void bootFileBesideTheProgramIsNotTheOneThatCounts();
     void messageComesWithTheFolderOfTheImage_data();
     void messageComesWithTheFolderOfTheImage();
+    void allIsDoneWhenTheSuccessIsTold();
     void secondSaveWritesTheSameFolder();
 
 private:
@@ -126,7 +137,7 @@ void TstCPage4Save::cancelledDialogIsSilent()
     fixture->press("save");
     QVERIFY(driver.done());
     QVERIFY(fixture->isUsable());
-    QTest::qWait(200);
+    QVERIFY(PageFixture::waitUntilToolsGone());
     QVERIFY(fixture->author.calls().isEmpty());
 }
 
@@ -144,14 +155,45 @@ void TstCPage4Save::argumentsWithBootFileWhichIsInTheRootBeforeTheToolStarts()
     load();
     writeFile(bootFile(), "12.50% done, estimate finish x\n");
     // The tool prints the file as the first thing it does.
-    fixture->author.setScript(
-        {"file 100 " + EditPageFixture::workFolder() + "/boot.bin", "sleep 1000"});
+    fixture->author.setScript({"file 100 " + EditPageFixture::workFolder() + "/boot.bin",
+                               fixture->author.holding("read")});
     fixture->startSaving(image);
-    QTRY_COMPARE(fixture->progressValue(), 1250);
+    QTRY_COMPARE_WITH_TIMEOUT(fixture->progressValue(), 1250, 60000);
+    fixture->author.release("read");
     QCOMPARE(fixture->waitForMessage(), success);
     QCOMPARE(fixture->author.calls(), QList<QStringList>({{"-udf", "-R", "-o", "-b", "boot.bin",
                                                            image, Util::GetTempDir() + "/tmp"}}));
     QVERIFY(QFile::exists(bootFile()));
+}
+
+// The file is a pipe, so that the copy waits in the middle until it has been looked around.
+void TstCPage4Save::bootFileIsCopiedBeforeTheToolIsStarted()
+{
+    load();
+    QVERIFY(fixture->waitUntilWorked());
+    QVERIFY(PageFixture::waitUntilToolsGone());
+    QCOMPARE(::mkfifo(QFile::encodeName(bootFile()), 0600), 0);
+    std::atomic<bool> isSaving{true};
+    int runners = -1;
+    std::thread writer([&isSaving, &runners] {
+        int pipe = -1;
+        // It can be opened once the copy reads.
+        while (isSaving && (pipe = ::open(QFile::encodeName(bootFile()),
+                                          O_WRONLY | O_NONBLOCK | O_CLOEXEC)) < 0)
+            QThread::msleep(1);
+        if (pipe < 0)
+            return;
+        runners = runnerThreadCount();
+        const bool written = ::write(pipe, "boot", 4) == 4;
+        runners = written ? runners : -2;
+        ::close(pipe);
+    });
+    fixture->startSaving(image);
+    isSaving = false;
+    writer.join();
+    QCOMPARE(runners, 0);
+    QCOMPARE(fixture->waitForMessage(), success);
+    QCOMPARE(readFile(EditPageFixture::workFolder() + "/boot.bin"), QByteArray("boot"));
 }
 
 void TstCPage4Save::bootFileReplacesTheImagesOwn()
@@ -188,12 +230,28 @@ void TstCPage4Save::messageComesWithTheFolderOfTheImage()
     QVERIFY(QDir().mkpath(fixture->path(folder)));
     load();
     fixture->startSaving(fixture->path(folder) + "/out.iso");
-    ModalDriver driver;
+    ModalDriver driver(60000);
     driver.press("CommDialog", "btncancel"); // opens the folder
-    QVERIFY(QTest::qWaitFor([this] { return !openedAddress.isEmpty(); }, 10000));
+    QVERIFY(QTest::qWaitFor([this] { return !openedAddress.isEmpty(); }, 60000));
     QVERIFY(driver.texts().first().split('\n').contains(success));
     QCOMPARE(QDir::cleanPath(openedAddress.path(QUrl::FullyDecoded)), fixture->path(folder));
-    QVERIFY(QTest::qWaitFor([this] { return fixture->isUsable(); }));
+    QVERIFY(QTest::qWaitFor([this] { return fixture->isUsable(); }, 60000));
+}
+
+// The message waits for the user: whatever came after it would wait as well.
+void TstCPage4Save::allIsDoneWhenTheSuccessIsTold()
+{
+    load();
+    fixture->startSaving(image);
+    bool isEnabled = false;
+    bool isProgressShown = true;
+    const auto look = [&] {
+        isEnabled = fixture->page->isEnabled() && fixture->button("save")->isEnabled();
+        isProgressShown = fixture->progress()->isVisible();
+    };
+    QCOMPARE(fixture->answerMessage([] {}, "btnok", look), success);
+    QVERIFY(isEnabled);
+    QVERIFY(!isProgressShown);
 }
 
 void TstCPage4Save::secondSaveWritesTheSameFolder()

@@ -23,6 +23,42 @@ const QString success = "Save ISO file successfully!";
 
 } // namespace
 
+// What the progress dialog says at the moment when this is noted in the debug stream.
+class TextAtNote
+{
+public:
+    TextAtNote(const PageFixture& page, const QString& note)
+    {
+        fixture = &page;
+        awaited = note;
+        seen.clear();
+        next = qInstallMessageHandler(look);
+    }
+    ~TextAtNote() { qInstallMessageHandler(next); }
+    TextAtNote(const TextAtNote&) = delete;
+    TextAtNote& operator=(const TextAtNote&) = delete;
+
+    QStringList texts() const { return seen; }
+
+private:
+    static void look(QtMsgType type, const QMessageLogContext& context, const QString& message)
+    {
+        if (message == awaited)
+            seen.append(fixture->progressText());
+        next(type, context, message);
+    }
+
+    static const PageFixture* fixture;
+    static QString awaited;
+    static QStringList seen;
+    static QtMessageHandler next;
+};
+
+const PageFixture* TextAtNote::fixture = nullptr;
+QString TextAtNote::awaited;
+QStringList TextAtNote::seen;
+QtMessageHandler TextAtNote::next = nullptr;
+
 // What a save waits for, and what the progress dialog shows meanwhile.
 class TstCPage4SaveProgress : public TestCase
 {
@@ -40,7 +76,7 @@ private slots:
     void writingShowsTheProgressOfTheTool();
 
 private:
-    void load(const QStringList& unpacking = {});
+    void load();
 
     std::unique_ptr<EditSaveFixture> fixture;
     QString image;
@@ -64,9 +100,9 @@ void TstCPage4SaveProgress::cleanup()
     TestCase::cleanup();
 }
 
-void TstCPage4SaveProgress::load(const QStringList& unpacking)
+void TstCPage4SaveProgress::load()
 {
-    fixture->setArchiver(ExtractPageFixture::usualEntries(), unpacking);
+    fixture->setArchiver(ExtractPageFixture::usualEntries());
     fixture->startLoading();
     QVERIFY(fixture->waitUntilListed());
 }
@@ -74,28 +110,25 @@ void TstCPage4SaveProgress::load(const QStringList& unpacking)
 void TstCPage4SaveProgress::
     savingRightAfterLoadingWaitsForTheExtractionThenForThePendingOperations()
 {
-    load({"sleep 1000"});
+    QVERIFY(fixture->loadHalfway());
     const QString work = EditPageFixture::workFolder();
     HeldFolder held(fixture->path("held"), 4096);
     fixture->remove({"autorun.inf"});
     fixture->rename("readme.txt", "renamed.txt");
     fixture->add({fixture->path("held")});
-    // What the archiver unpacks.
-    const Trigger unpacked([this] { return fixture->archiver.calls().size() == 2; },
-                           [work] {
-                               writeFile(work + "/autorun.inf", "");
-                               writeFile(work + "/readme.txt", "read me");
-                           });
-    QStringList beforeTheEnd;
-    const Trigger nearTheEnd([&] { return unpacked.hasFired() && !held.isHolding(); },
-                             [&] { beforeTheEnd = entriesOf(work); });
+    const Trigger unpack([this] { return fixture->isShowing(extracting); },
+                         [this, work] {
+                             // What the archiver unpacks.
+                             writeFile(work + "/autorun.inf", "");
+                             writeFile(work + "/readme.txt", "read me");
+                             fixture->letUnpack();
+                         });
     const Trigger release([this] { return fixture->isShowing(copying); }, [&] { held.release(); });
     const WidgetRecorder recorder(fixture->progress());
     fixture->author.setScript({"sleep 60000"});
     fixture->startSaving(image);
     QVERIFY(release.hasFired());
-    // Nothing is changed while it is being unpacked, everything is by the time it is written.
-    QCOMPARE(beforeTheEnd, QStringList({"autorun.inf", "readme.txt"}));
+    QVERIFY(unpack.hasFired());
     QCOMPARE(recorder.texts(), QStringList({extracting, copying, writing}));
     QCOMPARE(entriesOf(work), QStringList({"held", "renamed.txt"}));
     QCOMPARE(readFile(work + "/renamed.txt"), QByteArray("read me"));
@@ -107,10 +140,13 @@ void TstCPage4SaveProgress::noPendingWorkSkipsTheCopyText()
 {
     load();
     QVERIFY(fixture->waitUntilWorked());
-    const WidgetRecorder recorder(fixture->progress());
-    QCOMPARE(fixture->save(image), success);
-    QVERIFY(recorder.texts().contains(writing));
-    QVERIFY(!recorder.texts().contains(copying));
+    // From the end of one wait to the next text no event is processed: the dialog is looked at
+    // where the page notes that the copies are made.
+    fixture->author.setScript({"sleep 60000"});
+    const TextAtNote atNote(*fixture, "file copy finished!!!");
+    fixture->startSaving(image);
+    QCOMPARE(atNote.texts(), QStringList(extracting));
+    QVERIFY(fixture->isShowing(writing));
 }
 
 void TstCPage4SaveProgress::emptyFilesAreWaitedForToo()
@@ -132,20 +168,37 @@ void TstCPage4SaveProgress::emptyFilesAreWaitedForToo()
 
 void TstCPage4SaveProgress::extractionWaitShowsTheProgressOfTheExtraction()
 {
-    load({"sleep 300", "err  7% 1 - boot/kernel\\n", "sleep 500", "err  42% 2 - readme.txt\\n",
-          "sleep 500", "err  5% 2 - backwards\\n", "sleep 500", "err 900% 2 - far\\n",
-          "sleep 500"});
-    const WidgetRecorder recorder(fixture->progress());
-    int maximum = 0;
+    const ScriptedCalls& archiver = fixture->archiver;
+    QVERIFY(fixture->loadHalfway({"err  7% 1 - boot/kernel\\n", archiver.holding("7"),
+                                  "err  42% 2 - readme.txt\\n", archiver.holding("42"),
+                                  "err  5% 2 - backwards\\n", archiver.holding("5"),
+                                  "err 900% 2 - far\\n", archiver.holding("900")}));
     fixture->author.setScript({"sleep 60000"});
-    QVERIFY(fixture->saveAnd(
-        image, [this] { return fixture->isShowing(extracting) && fixture->progressValue() == 42; },
-        [&] { maximum = fixture->progressMaximum(); }));
+    const auto value = [this] { return fixture->progressValue(); };
+    const auto isWaiting = [this] { return fixture->isShowing(extracting); };
+    int maximum = 0;
+    const Trigger at0(isWaiting, [&] {
+        maximum = fixture->progressMaximum();
+        fixture->letUnpack();
+    });
+    const Trigger at7([&] { return isWaiting() && value() == 7; }, [&] { archiver.release("7"); });
+    const Trigger at42([&] { return value() == 42; }, [&] { archiver.release("42"); });
+    // Until the page sets the bar again, it stays where it is put here.
+    constexpr int put = 99;
+    const Trigger at5([] { return debugLines().contains("m_ExtractProgress: 5"); },
+                      [this] { fixture->progress()->SetValue(put); });
+    int afterBackwards = 0;
+    const Trigger backwards([&] { return at5.hasFired() && value() != put; },
+                            [&] {
+                                afterBackwards = value();
+                                archiver.release("5");
+                            });
+    const Trigger at900([&] { return backwards.hasFired() && value() == 100; },
+                        [&] { archiver.release("900"); });
+    fixture->startSaving(image);
+    QVERIFY(at900.hasFired());
     QCOMPARE(maximum, 100);
-    // At the end, the bar of the writing begins.
-    QList<int> values = recorder.values();
-    values.removeAll(0);
-    QCOMPARE(values.mid(0, 3), QList<int>({7, 42, 100}));
+    QCOMPARE(afterBackwards, 42);
 }
 
 void TstCPage4SaveProgress::copyWaitShowsWhatIsCopied()
@@ -176,17 +229,20 @@ void TstCPage4SaveProgress::copyWaitShowsWhatIsCopied()
 void TstCPage4SaveProgress::writingShowsTheProgressOfTheTool()
 {
     load();
-    fixture->author.setScript({"err  0.29% done, estimate finish x\\n", "sleep 200",
-                               "err  64.71% done, estimate finish x\\n", "sleep 200",
-                               "err 99.99% done, estimate finish x\\n", "sleep 200"});
+    const ScriptedCalls& author = fixture->author;
+    author.setScript({"err  0.29% done, estimate finish x\\n", author.holding("29"),
+                      "err  64.71% done, estimate finish x\\n", author.holding("6471"),
+                      "err 99.99% done, estimate finish x\\n", author.holding("9999")});
     QVERIFY(fixture->waitUntilWorked());
     fixture->startSaving(image);
     QVERIFY(fixture->isShowing(writing));
     QCOMPARE(fixture->progressMaximum(), 10000);
     QCOMPARE(fixture->progressValue(), 0);
-    const WidgetRecorder recorder(fixture->progress());
+    for (const int value : {29, 6471, 9999}) {
+        QTRY_COMPARE_WITH_TIMEOUT(fixture->progressValue(), value, 60000);
+        author.release(QString::number(value));
+    }
     QCOMPARE(fixture->waitForMessage(), success);
-    QCOMPARE(recorder.values(), QList<int>({29, 6471, 9999}));
 }
 
 KORVEX_TEST_MAIN(TstCPage4SaveProgress)

@@ -15,8 +15,7 @@
 namespace
 {
 
-constexpr int stops = 30; // a third of them in each phase
-constexpr int stopLimitMs = 2000;
+constexpr int stops = 12; // a third of them in each phase
 const QString extracting = "Extracting iso...";
 const QString copying = "Copy files and directories...";
 const QString writing = "Saving ISO file...";
@@ -38,15 +37,17 @@ private slots:
     void stopWhileTheWorkFolderIsStillToBeEmptiedLeavesNothingInIt();
     void stopInTheCopyWaitLosesWhatWasQueued();
     void editsAfterAStopInTheCopyWaitAreMade();
-    void thirtyStopsInARow();
+    void manyStopsInARow();
     void saveAgainInTheExtractionWaitTheNewestWins();
     void saveAgainInTheCopyWaitTheNewestWins();
     void saveAgainAndCancelledLeavesTheStoppedOneStopped();
 
 private:
-    void load(const QStringList& unpacking = {});
-    // A save that ends in the phase of this text, by Stop.
-    void saveAndStop(const QString& text, HeldFolder* held = nullptr);
+    void load();
+    // A save that ends in the phase of this text, by Stop. letGo ends what the phase waits for.
+    void saveAndStop(const QString& text, const std::function<void()>& letGo);
+    // How many turns the copy wait has made.
+    static int copyTurns() { return debugLines().filter("CPage3::OnCreate ").size(); }
     // Stop in the phase of this text, and a second save in it, which is the one that is carried
     // out.
     void saveTwice(const QString& text, const std::function<void()>& onSecond);
@@ -73,43 +74,51 @@ void TstCPage4SaveStop::cleanup()
     TestCase::cleanup();
 }
 
-void TstCPage4SaveStop::load(const QStringList& unpacking)
+void TstCPage4SaveStop::load()
 {
-    fixture->setArchiver(ExtractPageFixture::usualEntries(), unpacking);
+    fixture->setArchiver(ExtractPageFixture::usualEntries());
     fixture->startLoading();
     QVERIFY(fixture->waitUntilListed());
 }
 
-void TstCPage4SaveStop::saveAndStop(const QString& text, HeldFolder* held)
+void TstCPage4SaveStop::saveAndStop(const QString& text, const std::function<void()>& letGo)
 {
     QVERIFY(fixture->saveAnd(
         image, [this, text] { return fixture->isShowing(text); },
-        [this, held] {
+        [this, letGo] {
             fixture->pressStop();
-            if (held)
-                held->release();
+            letGo();
         }));
 }
 
 void TstCPage4SaveStop::stopInTheExtractionWaitDoesNotShortenItAndTheSaveStopsThen()
 {
-    load({"sleep 1500"});
-    QVERIFY(QTest::qWaitFor([] { return !processesOf("scriptedtool").isEmpty(); }));
-    bool isHiddenWhileUnpacking = false;
-    bool isUnpackingAtStop = false;
-    QVERIFY(fixture->saveAnd(
-        image, [this] { return fixture->isShowing(extracting); },
-        [&] {
-            fixture->pressStop();
-            isUnpackingAtStop = !processesOf("scriptedtool").isEmpty();
-            QTest::qWait(300);
-            isHiddenWhileUnpacking =
-                !processesOf("scriptedtool").isEmpty() && !fixture->progress()->isVisible();
-        }));
-    QVERIFY(isUnpackingAtStop);
-    QVERIFY(isHiddenWhileUnpacking);
+    QVERIFY(fixture->loadHalfway({"err  77% 2 - late\\n"}));
+    bool isHiddenAtStop = false;
+    connect(fixture->progress(), &CProgressDialog::SigCancel, this,
+            [&] { isHiddenAtStop = !fixture->progress()->isVisible(); });
+    // Until the page sets the bar again, in the next turn of its wait, it stays where it is put
+    // here.
+    constexpr int put = 99;
+    bool isPut = false;
+    const Trigger stop([this] { return fixture->isShowing(extracting); },
+                       [this, &isPut] {
+                           fixture->pressStop();
+                           fixture->progress()->SetValue(put);
+                           isPut = true;
+                       });
+    bool isHiddenInTheNextTurn = false;
+    const Trigger nextTurn([&] { return isPut && fixture->progressValue() != put; },
+                           [&] {
+                               isHiddenInTheNextTurn = !fixture->progress()->isVisible();
+                               fixture->letUnpack();
+                           });
+    fixture->startSaving(image);
     // The save has returned: the extraction is over and was not cut off.
-    QVERIFY(processesOf("scriptedtool").isEmpty());
+    QVERIFY(nextTurn.hasFired());
+    QVERIFY(isHiddenAtStop);
+    QVERIFY(isHiddenInTheNextTurn);
+    QVERIFY(debugLines().contains("m_ExtractProgress: 77"));
     QVERIFY(debugLines().contains("CPage4::OnExtractFinished() is called!!"));
     QVERIFY(!debugLines().contains("Extract finished!!!"));
     QVERIFY(fixture->isUsable());
@@ -119,10 +128,10 @@ void TstCPage4SaveStop::stopInTheExtractionWaitDoesNotShortenItAndTheSaveStopsTh
 
 void TstCPage4SaveStop::editsBeforeAStopInTheExtractionWaitAreMade()
 {
-    load({"sleep 800"});
+    QVERIFY(fixture->loadHalfway());
     writeFile(fixture->path("new.txt"), "new");
     fixture->add({fixture->path("new.txt")});
-    saveAndStop(extracting);
+    saveAndStop(extracting, [this] { fixture->letUnpack(); });
     QVERIFY(fixture->waitUntilWorked());
     QCOMPARE(readFile(EditPageFixture::workFolder() + "/new.txt"), QByteArray("new"));
     QVERIFY(fixture->author.calls().isEmpty());
@@ -137,15 +146,24 @@ void TstCPage4SaveStop::stopWhileTheWorkFolderIsStillToBeEmptiedLeavesNothingInI
     const auto held = fixture->addHeld(1000);
     fixture->startLoading("second.iso");
     QVERIFY(fixture->waitUntilListed());
-    QVERIFY(fixture->saveAnd(
-        image, [this] { return fixture->isShowing(extracting); },
-        [&] {
-            fixture->pressStop();
-            QTest::qWait(300);
-            // Nothing is unpacked beside a copy of the image before.
-            QCOMPARE(fixture->archiver.calls().size(), 3);
-            held->release();
-        }));
+    QVERIFY(PageFixture::waitUntilToolsGone());
+    constexpr int put = 99;
+    bool isPut = false;
+    const Trigger stop([this] { return fixture->isShowing(extracting); },
+                       [this, &isPut] {
+                           fixture->pressStop();
+                           fixture->progress()->SetValue(put);
+                           isPut = true;
+                       });
+    // In a turn of the wait, the page has looked many times whether it may unpack.
+    const Trigger nextTurn([&] { return isPut && fixture->progressValue() != put; },
+                           [&] {
+                               // Nothing is unpacked beside a copy of the image before.
+                               QCOMPARE(runnerThreadCount(), 0);
+                               held->release();
+                           });
+    fixture->startSaving(image);
+    QVERIFY(nextTurn.hasFired());
     QVERIFY(fixture->waitUntilWorked());
     QCOMPARE(fixture->archiver.calls().size(), 4);
     QCOMPARE(entriesOf(EditPageFixture::workFolder()), QStringList());
@@ -198,32 +216,36 @@ void TstCPage4SaveStop::editsAfterAStopInTheCopyWaitAreMade()
     QCOMPARE(entriesOf(EditPageFixture::workFolder()), QStringList({"held", "late.txt"}));
 }
 
-void TstCPage4SaveStop::thirtyStopsInARow()
+void TstCPage4SaveStop::manyStopsInARow()
 {
     fixture->author.setScript({"sleep 60000"});
     int descriptors = 0;
     for (int run = 0; run < stops; ++run) {
-        load(run % 3 == 0 ? QStringList{"sleep 250"} : QStringList());
+        const QString gate = QString::number(run);
+        fixture->setArchiver(ExtractPageFixture::usualEntries(),
+                             {run % 3 == 0 ? fixture->archiver.holding(gate) : QString()});
+        fixture->startLoading();
+        QVERIFY(fixture->waitUntilListed());
         if (run % 3 != 0)
             QVERIFY(fixture->waitUntilWorked());
         if (run % 3 == 1) {
             QDir(fixture->path("held")).removeRecursively();
             QFile::remove(fixture->path("held.pipe"));
             const auto held = fixture->addHeld(0);
-            saveAndStop(copying, held.get());
+            saveAndStop(copying, [&held] { held->release(); });
         } else if (run % 3 == 0) {
-            saveAndStop(extracting);
+            saveAndStop(extracting, [&] { fixture->archiver.release(gate); });
         } else {
             fixture->startSaving(image);
             QVERIFY(fixture->isShowing(writing));
             fixture->pressStop();
         }
         QVERIFY(fixture->isUsable());
-        QVERIFY(QTest::qWaitFor([] { return EditSaveFixture::areToolsGone(); }, stopLimitMs));
+        QVERIFY(PageFixture::waitUntilToolsGone());
         if (run == 5)
             descriptors = descriptorCount();
     }
-    QVERIFY(descriptorCount() <= descriptors);
+    QVERIFY(QTest::qWaitFor([&] { return descriptorCount() <= descriptors; }, 60000));
     QVERIFY(fixture->author.calls().size() <= stops / 3);
     fixture->author.setScript({});
     QCOMPARE(fixture->save(image), success);
@@ -231,7 +253,7 @@ void TstCPage4SaveStop::thirtyStopsInARow()
 
 void TstCPage4SaveStop::saveTwice(const QString& text, const std::function<void()>& onSecond)
 {
-    fixture->author.setScript({"sleep 300"});
+    fixture->author.setScript({fixture->author.holding("writing")});
     {
         ModalDriver driver;
         driver.typePath(image);
@@ -248,8 +270,9 @@ void TstCPage4SaveStop::saveTwice(const QString& text, const std::function<void(
     }
     QVERIFY(fixture->waitForCall(1));
     QVERIFY(fixture->isShowing(writing));
+    fixture->author.release("writing");
     QCOMPARE(fixture->waitForMessage(), success);
-    QTest::qWait(300);
+    QVERIFY(PageFixture::waitUntilToolsGone());
     QCOMPARE(fixture->author.calls().size(), 1);
     QCOMPARE(fixture->author.calls().first().at(3), fixture->path("newer.iso"));
     QVERIFY(fixture->isUsable());
@@ -257,8 +280,8 @@ void TstCPage4SaveStop::saveTwice(const QString& text, const std::function<void(
 
 void TstCPage4SaveStop::saveAgainInTheExtractionWaitTheNewestWins()
 {
-    load({"sleep 2500"});
-    saveTwice(extracting, [] {});
+    QVERIFY(fixture->loadHalfway());
+    saveTwice(extracting, [this] { fixture->letUnpack(); });
 }
 
 // It waits for the copy that is still in progress, which would come out half otherwise.
@@ -267,17 +290,20 @@ void TstCPage4SaveStop::saveAgainInTheCopyWaitTheNewestWins()
     load();
     QVERIFY(fixture->waitUntilWorked());
     const auto held = fixture->addHeld(1000);
-    saveTwice(copying, [&] {
-        QTest::qWait(300);
-        QVERIFY(fixture->author.calls().isEmpty());
-        held->release();
-    });
+    int turns = -1;
+    const Trigger twoTurnsLater([&turns] { return turns >= 0 && copyTurns() >= turns + 2; },
+                                [&held] {
+                                    QCOMPARE(runnerThreadCount(), 0);
+                                    held->release();
+                                });
+    saveTwice(copying, [&turns] { turns = copyTurns(); });
+    QVERIFY(twoTurnsLater.hasFired());
     QCOMPARE(QFileInfo(EditPageFixture::workFolder() + "/held/rest.bin").size(), 1000);
 }
 
 void TstCPage4SaveStop::saveAgainAndCancelledLeavesTheStoppedOneStopped()
 {
-    load({"sleep 1500"});
+    QVERIFY(fixture->loadHalfway());
     ModalDriver driver;
     driver.typePath(image);
     driver.key("QFileDialog", Qt::Key_Escape);
@@ -285,11 +311,12 @@ void TstCPage4SaveStop::saveAgainAndCancelledLeavesTheStoppedOneStopped()
                         [this] {
                             fixture->pressStop();
                             fixture->press("save");
+                            fixture->letUnpack();
                         });
     fixture->page->OnSave();
     QVERIFY(driver.done());
     QVERIFY(fixture->isUsable());
-    QTest::qWait(300);
+    QVERIFY(PageFixture::waitUntilToolsGone());
     QVERIFY(fixture->author.calls().isEmpty());
 }
 

@@ -10,10 +10,11 @@
 #include "testfiles.h"
 #include "testmain.h"
 
+#include <QDeadlineTimer>
+
 namespace
 {
 
-constexpr int stopLimitMs = 2000;
 const QString extracting = "Extracting iso...";
 const QString copying = "Copy files and directories...";
 const QString success = "Save ISO file successfully!";
@@ -80,10 +81,9 @@ void TstCPage4SaveTool::load(const QStringList& unpacking)
 
 void TstCPage4SaveTool::checkGone()
 {
-    QVERIFY(QTest::qWaitFor([this] { return !fixture->page; }));
+    QVERIFY(QTest::qWaitFor([this] { return !fixture->page; }, 60000));
     QVERIFY(!fixture->progress());
-    QVERIFY(QTest::qWaitFor([] { return EditSaveFixture::areToolsGone(); }, stopLimitMs));
-    QTest::qWait(300);
+    QVERIFY(PageFixture::waitUntilToolsGone());
     QVERIFY(!QApplication::activeModalWidget());
     QVERIFY(!QApplication::overrideCursor());
 }
@@ -94,7 +94,6 @@ void TstCPage4SaveTool::failureOfTheToolIsToldAsSuccess_data()
     QTest::newRow("exit status") << QStringList{"err No space left on device\\n", "exit 1"};
     QTest::newRow("crash") << QStringList{"crash"};
     QTest::newRow("flood") << QStringList{"flood 1", "exit 1"};
-    QTest::newRow("silence") << QStringList{"sleep 700"};
 }
 
 void TstCPage4SaveTool::failureOfTheToolIsToldAsSuccess()
@@ -107,7 +106,7 @@ void TstCPage4SaveTool::failureOfTheToolIsToldAsSuccess()
     fixture->author.setScript({});
     QCOMPARE(fixture->save(image), success);
     QCOMPARE(fixture->author.calls().size(), 2);
-    QVERIFY(QTest::qWaitFor([] { return EditSaveFixture::areToolsGone(); }, stopLimitMs));
+    QVERIFY(PageFixture::waitUntilToolsGone());
 }
 
 void TstCPage4SaveTool::missingToolIsToldAsSuccess()
@@ -126,9 +125,11 @@ void TstCPage4SaveTool::missingToolIsToldAsSuccess()
 void TstCPage4SaveTool::stopWhileWritingEndsEveryTool_data()
 {
     QTest::addColumn<QStringList>("script");
-    QTest::newRow("silent") << QStringList{"sleep 60000"};
-    QTest::newRow("flood") << QStringList{"flood 100000"};
+    QTest::newRow("silent") << QStringList{"", "sleep 60000"};
+    QTest::newRow("flood") << QStringList{"", "flood 100000"};
     QTest::newRow("stubborn") << QStringList{"ignore-term", "sleep 60000"};
+    QTest::newRow("stubborn with a child")
+        << QStringList{"ignore-term", "child 60000", "sleep 60000"};
     QTest::newRow("stubborn flood, with a child")
         << QStringList{"ignore-term", "child 60000", "flood 100000"};
 }
@@ -138,15 +139,16 @@ void TstCPage4SaveTool::stopWhileWritingEndsEveryTool()
     QFETCH(QStringList, script);
     load();
     QVERIFY(fixture->waitUntilWorked());
+    // It is what it is before Stop comes.
+    script.insert(script.size() - 1, fixture->author.holding("ready"));
     fixture->author.setScript(script);
     fixture->startSaving(image);
-    QVERIFY(fixture->waitForCall(1));
-    QTest::qWait(200);
+    QVERIFY(fixture->author.isHeld("ready"));
+    fixture->author.release("ready");
     fixture->pressStop();
     QVERIFY(fixture->isUsable());
     const ModalDriver noMessage;
-    QVERIFY(QTest::qWaitFor([] { return EditSaveFixture::areToolsGone(); }, stopLimitMs));
-    QTest::qWait(400); // longer than the end of a run takes to be told
+    QVERIFY(PageFixture::waitUntilToolsGone());
     QVERIFY(fixture->isUsable());
 }
 
@@ -156,10 +158,14 @@ void TstCPage4SaveTool::linesAndEndAfterStopAreIgnored()
     QVERIFY(fixture->waitUntilWorked());
     fixture->author.setScript({"lines 50  45.00% done, estimate finish"});
     fixture->startSaving(image);
-    QThread::msleep(1000); // lines and end wait to be delivered
+    // Lines and end wait to be delivered.
+    const QDeadlineTimer limit(60000);
+    while (fixture->author.calls().isEmpty() && !limit.hasExpired())
+        QThread::msleep(1);
+    QVERIFY(PageFixture::waitUntilAllIsSent());
     QVERIFY(QMetaObject::invokeMethod(fixture->progress(), "OnBtnCancel"));
     const ModalDriver noMessage;
-    QTest::qWait(300);
+    QVERIFY(PageFixture::waitUntilToolsGone());
     QCOMPARE(fixture->author.calls().size(), 1);
     QCOMPARE(fixture->progressValue(), 0);
     QVERIFY(fixture->isUsable());
@@ -167,12 +173,13 @@ void TstCPage4SaveTool::linesAndEndAfterStopAreIgnored()
 
 void TstCPage4SaveTool::stopOverAndOverIsHarmless()
 {
-    load({"sleep 600"});
+    QVERIFY(fixture->loadHalfway());
     QVERIFY(fixture->saveAnd(
         image, [this] { return fixture->isShowing(extracting); },
         [this] {
             for (int press = 0; press < 20; ++press)
                 QVERIFY(QMetaObject::invokeMethod(fixture->progress(), "OnBtnCancel"));
+            fixture->letUnpack();
         }));
     fixture->page->StopCreate();
     QVERIFY(fixture->isUsable());
@@ -186,7 +193,7 @@ void TstCPage4SaveTool::saveAtOnceAfterStopRunsAnew()
     fixture->author.setScript(
         {"ignore-term", "err 80.00% done, estimate finish x\\n", "sleep 60000"});
     fixture->startSaving(image);
-    QTRY_COMPARE(fixture->progressValue(), 8000);
+    QTRY_COMPARE_WITH_TIMEOUT(fixture->progressValue(), 8000, 60000);
     fixture->pressStop();
     fixture->author.setScript({});
     // The stopped tool is still on its way out.
@@ -194,7 +201,7 @@ void TstCPage4SaveTool::saveAtOnceAfterStopRunsAnew()
     QCOMPARE(fixture->progressValue(), 0);
     QCOMPARE(fixture->waitForMessage(), success);
     QCOMPARE(fixture->author.calls().size(), 2);
-    QVERIFY(QTest::qWaitFor([] { return EditSaveFixture::areToolsGone(); }, stopLimitMs));
+    QVERIFY(PageFixture::waitUntilToolsGone());
     QVERIFY(fixture->isUsable());
 }
 
@@ -217,7 +224,8 @@ void TstCPage4SaveTool::archiverThatFailsIsNoHindrance()
 
 void TstCPage4SaveTool::pageClosedInTheExtractionWaitGoes()
 {
-    load({"ignore-term", "child 60000", "sleep 60000"});
+    load({"ignore-term", "child 60000", fixture->archiver.holding("deaf")});
+    QVERIFY(fixture->archiver.isHeld("deaf"));
     QVERIFY(fixture->saveAnd(
         image, [this] { return fixture->isShowing(extracting); },
         [this] {
@@ -238,7 +246,7 @@ void TstCPage4SaveTool::pageClosedInTheCopyWaitGoesWhenTheCopyHasEnded()
     QVERIFY(held->isHolding());
     QVERIFY(!fixture->page->isVisible());
     QVERIFY2(!fixture->progress()->isVisible(), "it would block the other pages");
-    QTest::qWait(200);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY2(fixture->page, "freed before its copy has ended");
     held->release();
     checkGone();
@@ -248,9 +256,9 @@ void TstCPage4SaveTool::pageClosedInTheCopyWaitGoesWhenTheCopyHasEnded()
 void TstCPage4SaveTool::pageClosedWhileWritingGoes()
 {
     load();
-    fixture->author.setScript({"ignore-term", "child 60000", "sleep 60000"});
+    fixture->author.setScript({"ignore-term", "child 60000", fixture->author.holding("deaf")});
     fixture->startSaving(image);
-    QVERIFY(fixture->waitForCall(1));
+    QVERIFY(fixture->author.isHeld("deaf"));
     fixture->page->close();
     checkGone();
 }

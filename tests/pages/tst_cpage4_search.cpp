@@ -36,6 +36,7 @@ private slots:
     void headerBoxTicksAllRows();
     void clickTogglesTheTickOnce_data();
     void clickTogglesTheTickOnce();
+    void pageTogglesOnlyBesideTheTick();
     void partialTickBecomesATick();
 
 private:
@@ -206,6 +207,18 @@ void TstCPage4Search::clickTogglesTheTickOnce()
     QCOMPARE(fixture->ticked(), QStringList("readme.txt"));
     fixture->clickRow(2, x);
     QCOMPARE(fixture->ticked(), QStringList());
+}
+
+void TstCPage4Search::pageTogglesOnlyBesideTheTick()
+{
+    QVERIFY(fixture->open());
+    QTableWidgetItem* const cell = fixture->table()->item(0, 0);
+    for (int x = 0; x <= 40; ++x) {
+        cell->setCheckState(Qt::Unchecked);
+        UserMouse::move(fixture->table(), {x, 100});
+        fixture->page->OnListViewClicked(cell);
+        QCOMPARE(cell->checkState(), x >= 17 ? Qt::Checked : Qt::Unchecked);
+    }
 }
 
 void TstCPage4Search::partialTickBecomesATick()

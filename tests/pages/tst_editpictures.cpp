@@ -12,6 +12,7 @@
 #include "startup.h"
 #include "testfiles.h"
 #include "testmain.h"
+#include "trigger.h"
 #include "usermouse.h"
 #include "util.h"
 
@@ -101,9 +102,15 @@ void TstEditPictures::listingThatRuns()
 void TstEditPictures::waitForUnpacking()
 {
     EditPageFixture fixture;
-    load(fixture, {"err  42% 7 - boot/kernel", "sleep 2000"});
-    QTimer::singleShot(1200, [&fixture] { save(fixture.progress(), "edit-unpacking"); });
+    load(fixture, {"err  42% 7 - boot/kernel\\n", fixture.archiver.holding("unpacking")});
+    const Trigger picture(
+        [&fixture] { return fixture.progress()->isVisible() && fixture.progressValue() == 42; },
+        [&fixture] {
+            save(fixture.progress(), "edit-unpacking");
+            fixture.archiver.release("unpacking");
+        });
     fixture.startSaving(fixture.path("new.iso"));
+    QVERIFY(picture.hasFired());
     QVERIFY(!fixture.page->isWorking());
 }
 

@@ -45,11 +45,13 @@ private:
     void hold();
     bool isGone() const
     {
-        return QTest::qWaitFor([this] { return !page; }, 2000);
+        return QTest::qWaitFor([this] { return !page; }, 60000);
     }
+    // Whatever has been asked of the page and its queue so far has been done then.
     bool stays() const
     {
-        QTest::qWait(200);
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         return page;
     }
 
@@ -74,7 +76,7 @@ void TstPageLifetime::hold()
 {
     held = std::make_unique<HeldFolder>(folder->filePath("held"), 1000);
     page->queue.AddTask(folder->filePath("held"), folder->filePath("to"), CFileCopy::Copy);
-    QVERIFY(QTest::qWaitFor([this] { return held->isHolding(); }));
+    QVERIFY(QTest::qWaitFor([this] { return held->isHolding(); }, 60000));
 }
 
 void TstPageLifetime::openPageStays()
@@ -82,7 +84,7 @@ void TstPageLifetime::openPageStays()
     QVERIFY(!page->lifetime.isClosed());
     // Even when its queue has ended by itself.
     page->queue.stop();
-    QVERIFY(page->queue.wait(2000));
+    QVERIFY(page->queue.wait(60000));
     QVERIFY(stays());
 }
 
@@ -161,7 +163,7 @@ void TstPageLifetime::stepAndCopyBothKeepThePage()
         const PageLifetime::Step step(page->lifetime);
         page->lifetime.close();
         held->release();
-        QVERIFY(QTest::qWaitFor([this] { return page->queue.isFinished(); }));
+        QVERIFY(QTest::qWaitFor([this] { return page->queue.isFinished(); }, 60000));
         QVERIFY(stays());
     }
     QVERIFY(isGone());
@@ -173,8 +175,7 @@ void TstPageLifetime::parentMayDeleteAClosedPage()
     page->setParent(&parent);
     page->lifetime.close();
     delete page;
-    QTest::qWait(50);
-    QVERIFY(!page);
+    QVERIFY(!stays());
 }
 
 KORVEX_TEST_MAIN(TstPageLifetime)
