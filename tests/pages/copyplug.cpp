@@ -45,7 +45,7 @@ bool CopyPlug::waitUntilReached()
     waited.start();
     // Fails as long as nobody reads.
     while ((writingEnd = open(pipe.constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC)) < 0) {
-        if (waited.hasExpired(10000))
+        if (waited.hasExpired(60'000))
             return false;
         QThread::usleep(50);
     }

@@ -21,7 +21,7 @@ public:
 
     QString path() const;
     // Waits until the copy is in progress, which it stays until release(). False when it does not
-    // come to that within ten seconds.
+    // come to that in time.
     bool waitUntilReached();
     // Lets the copy end with this content.
     void release(const QByteArray& content = QByteArray());

@@ -98,14 +98,14 @@ std::unique_ptr<HeldFolder> CreatePageFixture::addHeld(qint64 bytes) const
 {
     auto held = std::make_unique<HeldFolder>(path("held"), bytes);
     addFolder(path("held"));
-    if (!QTest::qWaitFor([&held] { return held->isHolding(); }))
+    if (!QTest::qWaitFor([&held] { return held->isHolding(); }, patienceMs))
         qFatal("The copy has not begun");
     return held;
 }
 
-bool CreatePageFixture::waitUntilStaged(int limitMs) const
+bool CreatePageFixture::waitUntilStaged() const
 {
-    return QTest::qWaitFor([this] { return !page->stagingQueue().HasTasks(); }, limitMs);
+    return QTest::qWaitFor([this] { return !page->stagingQueue().HasTasks(); }, patienceMs);
 }
 
 void CreatePageFixture::startCreating(const QString& isoPath) const
@@ -117,7 +117,7 @@ void CreatePageFixture::startCreating(const QString& isoPath) const
 
 bool CreatePageFixture::waitForCall(int number) const
 {
-    return QTest::qWaitFor([this, number] { return tool.calls().size() == number; }, 10000);
+    return QTest::qWaitFor([this, number] { return tool.calls().size() == number; }, patienceMs);
 }
 
 bool CreatePageFixture::isToolGone()

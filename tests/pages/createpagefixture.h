@@ -36,7 +36,7 @@ public:
     // Adds a folder whose copying is held, see HeldFolder, and waits until it is.
     std::unique_ptr<HeldFolder> addHeld(qint64 bytes) const;
     // Waits until all that was added or removed is in the staging folder.
-    bool waitUntilStaged(int limitMs = 30000) const;
+    bool waitUntilStaged() const;
 
     // Presses Create ISO and chooses this file: returns once the tool has been started.
     void startCreating(const QString& isoPath) const;

@@ -3,7 +3,6 @@
 
 #include "disccopytest.h"
 
-#include "processcounts.h"
 #include "startup.h"
 
 #include <QComboBox>
@@ -88,17 +87,17 @@ void DiscCopyTest::startHeld(const QStringList& actions)
 
 bool DiscCopyTest::waitForDrives(const QStringList& expected) const
 {
-    return QTest::qWaitFor([&] { return driveTexts() == expected; });
+    return QTest::qWaitFor([&] { return driveTexts() == expected; }, patienceMs);
 }
 
 bool DiscCopyTest::waitForCalls(const QString& program, int count) const
 {
-    return QTest::qWaitFor([&] { return scenario->callsOf(program).size() >= count; });
+    return QTest::qWaitFor([&] { return scenario->callsOf(program).size() >= count; }, patienceMs);
 }
 
 bool DiscCopyTest::waitUntilToolsAreGone()
 {
-    return QTest::qWaitFor([] { return runnerThreadCount() == 0; }, 10000);
+    return PageFixture::waitUntilToolsGone();
 }
 
 QString DiscCopyTest::closeMessage(const QString& button, const std::function<void()>& look) const

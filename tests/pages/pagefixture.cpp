@@ -69,6 +69,43 @@ int PageFixture::progressMaximum() const
     return progress()->findChild<QProgressBar*>("progressBar")->maximum();
 }
 
+QString PageFixture::missedPicture(const QString& name, const QString& picture,
+                                   const QString& caption) const
+{
+    constexpr int style = 3;
+    CImageButton* const shown = button(name);
+    // At rest, under the mouse and held down: as a button with nothing but that picture looks.
+    for (int state = 1; state <= 3; ++state) {
+        const QString only = ":/nwu/" + picture + QString::number(state);
+        CImageButton expected(shown->parentWidget());
+        expected.SetBackGround(only, only, only, only, caption, QString(), style);
+        if (state == 1)
+            UserMouse::moveAway(shown);
+        if (state == 2)
+            UserMouse::move(shown, shown->rect().center());
+        if (state == 3)
+            UserMouse::press(shown, shown->rect().center());
+        const bool isSame = QFile::exists(only) && shown->size() == expected.size() &&
+                            shown->grab().toImage() == expected.grab().toImage();
+        if (state == 3) {
+            // Outside, so that nothing is clicked.
+            UserMouse::move(shown, {-20, -20});
+            UserMouse::release(shown, {-20, -20});
+        }
+        if (!isSame)
+            return only;
+    }
+    return QString();
+}
+
+bool PageFixture::waitWithoutEvents(const std::function<bool()>& condition)
+{
+    const QDeadlineTimer limit(patienceMs);
+    while (!condition() && !limit.hasExpired())
+        QThread::msleep(1);
+    return condition();
+}
+
 // A dialog that has just come up may not have noticed the mouse yet, so the mouse comes from
 // outside, and a click that is lost all the same is repeated.
 void PageFixture::pressStop() const

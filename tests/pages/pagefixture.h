@@ -13,6 +13,9 @@
 class CImageButton;
 class CProgressDialog;
 
+// So long that only what never comes needs it.
+constexpr int patienceMs = 60'000;
+
 // A page as the main window lays it out, on a window of the same size, and a folder for its files.
 class PageFixture
 {
@@ -31,6 +34,12 @@ public:
     QString progressText() const;
     int progressValue() const;
     int progressMaximum() const;
+    // How one of the page's buttons looks: empty when each of its three states shows the picture of
+    // that state, else the first picture that it does not show.
+    QString missedPicture(const QString& name, const QString& picture,
+                          const QString& caption) const;
+    // Waits without receiving anything from other threads meanwhile.
+    static bool waitWithoutEvents(const std::function<bool()>& condition);
     // Clicks Stop in the progress dialog.
     void pressStop() const;
     // The message that is open, as the progress dialog is modal as well.

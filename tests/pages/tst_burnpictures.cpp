@@ -74,7 +74,7 @@ void TstBurnPictures::burn(BurnPageFixture& fixture, const QStringList& pictures
         });
     }
     fixture.press("burn");
-    QTRY_VERIFY(driver.done());
+    QTRY_VERIFY_WITH_TIMEOUT(driver.done(), patienceMs);
 }
 
 void TstBurnPictures::pageOnTheHomeScreen()
@@ -138,10 +138,10 @@ void TstBurnPictures::discProgress()
     BurnPageFixture fixture;
     chooseImage(fixture);
     fixture.press("burn");
-    QTRY_COMPARE(fixture.progressValue(), 42);
+    QTRY_COMPARE_WITH_TIMEOUT(fixture.progressValue(), 42, patienceMs);
     save(fixture.progress(), "burn-disc-progress");
     fixture.page->close();
-    QTRY_VERIFY(fixture.page.isNull());
+    QTRY_VERIFY_WITH_TIMEOUT(fixture.page.isNull(), patienceMs);
     drives->release("burn");
 }
 

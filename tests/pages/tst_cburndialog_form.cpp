@@ -147,27 +147,19 @@ void TstCBurnDialogForm::buttonsHaveTheirCaptionsAndPictures_data()
     QTest::addColumn<QString>("caption");
     QTest::addColumn<QString>("picture");
     QTest::newRow("browser") << "Browse"
-                             << "Broswe1";
+                             << "Broswe";
     QTest::newRow("back") << "Back"
-                          << "backwhite1";
+                          << "backwhite";
     QTest::newRow("burn") << "Burn"
-                          << "burn1";
+                          << "burn";
 }
 
 void TstCBurnDialogForm::buttonsHaveTheirCaptionsAndPictures()
 {
+    QFETCH(QString, caption);
     QFETCH(QString, picture);
-    CImageButton* const button = fixture->button(QTest::currentDataTag());
-    QTEST(button->accessibleName(), "caption");
-    const QPixmap expected(":/nwu/" + picture);
-    QVERIFY(!expected.isNull());
-    QCOMPARE(button->size(), expected.size());
-    // Beside the caption the picture shows as it is.
-    const QImage shown = button->grab().toImage();
-    const QPoint edge(button->width() / 2, 1);
-    QVERIFY(!button->captionRect().contains(edge));
-    QCOMPARE(shown.pixelColor(edge * shown.devicePixelRatio()),
-             expected.toImage().pixelColor(edge));
+    QCOMPARE(fixture->button(QTest::currentDataTag())->accessibleName(), caption);
+    QCOMPARE(fixture->missedPicture(QTest::currentDataTag(), picture, caption), QString());
 }
 
 void TstCBurnDialogForm::styleSheetsAreToTheLetter()

@@ -139,7 +139,7 @@ void TstCBurnDialogInput::spaceOnBackLeavesThePage()
 {
     fixture->button("back")->setFocus();
     QTest::keyClick(fixture->button("back"), Qt::Key_Space);
-    QTRY_VERIFY(fixture->page.isNull());
+    QTRY_VERIFY_WITH_TIMEOUT(fixture->page.isNull(), patienceMs);
 }
 
 void TstCBurnDialogInput::escapeDoesNotLeaveThePage()

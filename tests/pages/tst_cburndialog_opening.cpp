@@ -118,7 +118,7 @@ void TstCBurnDialogOpening::burnPressedTwiceOpensOnePage()
     QVERIFY(pressAgain.isDone());
     QVERIFY(isBusy);
     // A click that had to wait comes only now, and not to the tile that the page covers.
-    QTest::qWait(50);
+    QCoreApplication::processEvents();
     QCOMPARE(window->findChildren<CBurnDialog*>().size(), 1);
     QCOMPARE(drives->callsOf("drutil").size(), 1);
     QCOMPARE(BurnPageFixture::textsOf(page()->findChild<QComboBox*>("usblist")),
@@ -133,7 +133,7 @@ void TstCBurnDialogOpening::closedPageCanBeOpenedAgain()
         const QPointer<CBurnDialog> opened = page();
         QVERIFY(opened);
         UserMouse::click(opened->findChild<QWidget*>("back"));
-        QTRY_VERIFY(opened.isNull());
+        QTRY_VERIFY_WITH_TIMEOUT(opened.isNull(), patienceMs);
     }
 }
 

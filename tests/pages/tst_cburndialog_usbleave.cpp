@@ -91,7 +91,7 @@ void TstCBurnDialogUsbLeave::closed()
         QVERIFY(fixture.isDiskUntouched());
     else
         QCOMPARE(fixture.commands(), fixture.wholeRun(fixture.image(), step.isLarge));
-    QTRY_VERIFY(!fixture.page);
+    QTRY_VERIFY_WITH_TIMEOUT(!fixture.page, patienceMs);
     QVERIFY(!fixture.progress());
     QVERIFY(fixture.window.isVisible());
 }
@@ -105,7 +105,7 @@ void TstCBurnDialogUsbLeave::closedDuringTheQuestion()
         fixture.press("burn");
     }
     QVERIFY(fixture.isDiskUntouched());
-    QTRY_VERIFY(!fixture.page);
+    QTRY_VERIFY_WITH_TIMEOUT(!fixture.page, patienceMs);
 }
 
 void TstCBurnDialogUsbLeave::pressedAgainAndDriveChange_data()

@@ -95,11 +95,21 @@ void TstCBurnDialogUsbSteps::stepsRunStrictlyOneAfterAnother()
 {
     UsbWriteFixture fixture;
     fixture.addInstallWim(fourGibibytes);
-    fixture.drives.on("diskutil", {"partitionDisk", "..."}, {"sleep 60"});
-    fixture.drives.on("mkbootable", {"..."}, {"sleep 60"});
-    fixture.drives.on("7z", {"..."}, {"sleep 60"});
-    fixture.drives.on("wimlib-imagex", {"..."}, {"sleep 60"});
-    fixture.drives.on("sync", {}, {"sleep 20"});
+    fixture.drives.on("diskutil", {"partitionDisk", "..."}, {fixture.drives.holding("diskutil")});
+    for (const QString tool : {"mkbootable", "7z", "wimlib-imagex"})
+        fixture.drives.on(tool, {"..."}, {fixture.drives.holding(tool)});
+    // Each stays for another look after it was first seen, while a hasty next one would begin.
+    QString seen;
+    QTimer looks;
+    looks.callOnTimeout([&] {
+        const QList<DriveCall> calls = fixture.calls();
+        if (calls.isEmpty())
+            return;
+        if (calls.last().program == seen)
+            fixture.drives.release(seen);
+        seen = calls.last().program;
+    });
+    looks.start(20);
     fixture.write();
     const QList<DriveCall> calls = fixture.calls();
     QCOMPARE(calls.size(), fixture.wholeRun(fixture.image(), true).size());

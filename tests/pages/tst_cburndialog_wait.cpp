@@ -3,9 +3,11 @@
 
 #include "burnpagefixture.h"
 #include "drivescenario.h"
+#include "processcounts.h"
 #include "startup.h"
 #include "testcase.h"
 #include "testmain.h"
+#include "trigger.h"
 #include "whencalled.h"
 
 #include <QScopeGuard>
@@ -121,7 +123,8 @@ void TstCBurnDialogWait::descriptionsThatComeSlowlyKeepTheOrder()
     const WhenCalled release(*drives, describing, [this] {
         const auto end = qScopeGuard([this] { drives->release("tool"); });
         // By then the line of the second disk has come.
-        QTest::qWait(400);
+        QTRY_COMPARE_WITH_TIMEOUT(runnerThreadCount(), 0, patienceMs);
+        QCoreApplication::processEvents();
         QCOMPARE(disks(), QStringList());
     });
     fixture->page->InitializeUSBAndDVDComboBox(2);
@@ -198,12 +201,12 @@ void TstCBurnDialogWait::pageClosedMeanwhileIsFreedAtTheEnd()
     const WhenCalled leave(*drives, command, [this] {
         const auto end = qScopeGuard([this] { drives->release("tool"); });
         fixture->page->close();
-        QTest::qWait(50);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(fixture->page);
     });
     fixture->notifyDriveChange();
     QVERIFY(leave.isDone());
-    QTRY_VERIFY(fixture->page.isNull());
+    QTRY_VERIFY_WITH_TIMEOUT(fixture->page.isNull(), patienceMs);
 }
 
 void TstCBurnDialogWait::windowIsPaintedMeanwhile_data()
@@ -218,20 +221,24 @@ void TstCBurnDialogWait::windowIsPaintedMeanwhile()
     PaintCounter counter;
     fixture->line("isofile")->installEventFilter(&counter);
     int before = 0;
-    int during = 0;
-    // Nothing here waits: it is the page that has to process the painting.
-    const auto release = [&] {
-        during = counter.paints;
-        drives->release("tool");
-    };
+    bool isChanged = false;
+    bool isPainted = false;
     const WhenCalled change(*drives, command, [&] {
         before = counter.paints;
         fixture->setImage("painted");
-        QTimer::singleShot(200, &fixture->window, release);
+        isChanged = true;
     });
+    // Nothing here waits: it is the page that has to process the painting.
+    const Trigger release([&] { return isChanged && counter.paints > before; },
+                          [&] {
+                              isPainted = true;
+                              drives->release("tool");
+                          });
+    // In case that it does not.
+    QTimer::singleShot(patienceMs / 3, &counter, [this] { drives->release("tool"); });
     fixture->notifyDriveChange();
     QVERIFY(change.isDone());
-    QVERIFY(during > before);
+    QVERIFY(isPainted);
 }
 
 KORVEX_TEST_MAIN(TstCBurnDialogWait)

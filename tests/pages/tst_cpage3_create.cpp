@@ -108,7 +108,7 @@ void TstCPage3Create::cancelledSaveDialogDoesNothing()
     driver.key("QFileDialog", Qt::Key_Escape);
     fixture->press("create");
     QVERIFY(fixture->isUsable());
-    QTest::qWait(200);
+    QVERIFY(PageFixture::waitUntilToolsGone());
     QVERIFY(fixture->tool.calls().isEmpty());
     QVERIFY(recorder.texts().isEmpty());
 }

@@ -28,8 +28,8 @@ private slots:
     void pageHasItsNameAndTitle();
     void labelsReadAsTheyShould_data();
     void labelsReadAsTheyShould();
-    void buttonsReadAsTheyShould_data();
-    void buttonsReadAsTheyShould();
+    void buttonsHaveTheirCaptionsAndPictures_data();
+    void buttonsHaveTheirCaptionsAndPictures();
     void jolietIsTheDefaultOfThreeTypes();
     void onlyOneTypeIsChosenAtATime();
     void radioButtonsShowPicturesOfTheirOwn();
@@ -37,6 +37,7 @@ private slots:
     void headersDoNotLightUp();
     void listSelectsOneWholeRowAndIsNotEdited();
     void listAndFrameHaveTheirSizes();
+    void listIsPaintedInItsColoursWithLargeHeaders();
     void gaugeIsEmptyAndWithoutText();
     void menuHasThreeActions();
     void textsFitTheirLabels();
@@ -121,29 +122,31 @@ void TstCPage3Form::labelsReadAsTheyShould()
     QCOMPARE(widget->font().family(), QString("Microsoft YaHei"));
 }
 
-void TstCPage3Form::buttonsReadAsTheyShould_data()
+void TstCPage3Form::buttonsHaveTheirCaptionsAndPictures_data()
 {
-    QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("caption");
-    QTest::newRow("addfile") << "addfile"
-                             << "Add Files...";
-    QTest::newRow("adddir") << "adddir"
-                            << "Add Folder...";
-    QTest::newRow("remove") << "remove"
+    QTest::addColumn<QString>("picture");
+    QTest::newRow("addfile") << "Add Files..."
+                             << "addfile";
+    QTest::newRow("adddir") << "Add Folder..."
+                            << "adddir";
+    QTest::newRow("remove") << "Remove"
                             << "Remove";
-    QTest::newRow("create") << "create"
-                            << "Create ISO";
-    QTest::newRow("back") << "back"
+    QTest::newRow("create") << "Create ISO"
+                            << "Create-IOS";
+    QTest::newRow("back") << "Back"
                           << "Back";
 }
 
-void TstCPage3Form::buttonsReadAsTheyShould()
+void TstCPage3Form::buttonsHaveTheirCaptionsAndPictures()
 {
-    QFETCH(QString, name);
-    const CImageButton* const button = fixture->button(name);
+    QFETCH(QString, caption);
+    QFETCH(QString, picture);
+    const CImageButton* const button = fixture->button(QTest::currentDataTag());
     QVERIFY(button);
     QVERIFY(button->isVisible());
-    QTEST(button->accessibleName(), "caption");
+    QCOMPARE(button->accessibleName(), caption);
+    QCOMPARE(fixture->missedPicture(QTest::currentDataTag(), picture, caption), QString());
 }
 
 void TstCPage3Form::jolietIsTheDefaultOfThreeTypes()
@@ -210,6 +213,35 @@ void TstCPage3Form::listAndFrameHaveTheirSizes()
     QCOMPARE(frame->minimumSize(), frame->maximumSize());
     QVERIFY(frame->styleSheet().contains("border: 1px solid #C2EFFD"));
     QVERIFY(!frame->geometry().intersects(fixture->list()->geometry()));
+}
+
+// Compared with a header whose sections are painted so and with the colours as they come out.
+void TstCPage3Form::listIsPaintedInItsColoursWithLargeHeaders()
+{
+    fixture->addFiles({fixture->makeFile("a.txt")});
+    QVERIFY(fixture->finish());
+    fixture->setSelected(fixture->row({"a.txt"}));
+    QTreeWidget* const list = fixture->list();
+    QTreeWidget expected(fixture->page);
+    expected.setColumnCount(list->columnCount());
+    expected.setHeaderLabels(headers());
+    expected.setFont(list->font());
+    expected.setStyleSheet("QHeaderView::section { font: 13pt; color: black; }");
+    expected.resize(list->size());
+    expected.header()->setHighlightSections(false);
+    expected.header()->restoreState(list->header()->saveState());
+    expected.show();
+    expected.header()->resize(list->header()->size());
+    QCOMPARE(list->header()->sizeHint().height(), expected.header()->sizeHint().height());
+    QCOMPARE(list->header()->grab().toImage(), expected.header()->grab().toImage());
+    const QImage shown = list->grab().toImage();
+    const QColor line("#C2EFFD");
+    for (const QPoint corner : {QPoint(0, 0), QPoint(shown.width() - 1, shown.height() - 1)})
+        QCOMPARE(shown.pixelColor(corner), line);
+    const QRect row = list->visualItemRect(fixture->row({"a.txt"}));
+    const QImage rows = list->viewport()->grab().toImage();
+    QCOMPARE(rows.pixelColor(QPoint(row.right() - 1, row.center().y())), line);
+    QCOMPARE(rows.pixelColor(QPoint(row.right() - 1, row.bottom() + 20)), QColor("#FFFFFF"));
 }
 
 void TstCPage3Form::gaugeIsEmptyAndWithoutText()

@@ -3,6 +3,7 @@
 
 #include "chosenpaths.h"
 #include "cpage3.h"
+#include "pagefixture.h"
 #include "stagingmodel.h"
 #include "stagingsources.h"
 #include "testcase.h"
@@ -132,7 +133,9 @@ void describe(const QTreeWidgetItem* parent, const QString& prefix, QStringList*
 
 void TstCPage3Random::addingAndRemovingAtRandomFollowsTheModel()
 {
-    constexpr int sequences = 3000;
+    // So many that each case comes up; more of them on demand.
+    const int wanted = qEnvironmentVariableIntValue("KORVEX_RANDOM_SEQUENCES");
+    const int sequences = wanted > 0 ? wanted : 1000;
     for (int i = 0; i < sequences; ++i) {
         runSequence();
         if (QTest::currentTestFailed())
@@ -305,7 +308,7 @@ bool TstCPage3Random::settle(CPage3* page, StagingModel* model)
     QElapsedTimer waited;
     waited.start();
     while (page->stagingQueue().HasTasks()) {
-        if (waited.hasExpired(10000))
+        if (waited.hasExpired(patienceMs))
             return false;
         QThread::usleep(20);
     }

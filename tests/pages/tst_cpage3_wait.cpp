@@ -39,6 +39,8 @@ private slots:
     void windowStaysAliveWhileAClosedPageEndsItsCopy();
 
 private:
+    // How often the wait has looked whether all is copied.
+    static int looksAtQueue();
     // Adds a folder whose copying is held until held is released.
     void addHeld(qint64 bytes = 1 << 20);
 
@@ -67,6 +69,11 @@ void TstCPage3Wait::cleanup()
     TestCase::cleanup();
 }
 
+int TstCPage3Wait::looksAtQueue()
+{
+    return debugLines().filter("CPage3::OnCreate ").size();
+}
+
 void TstCPage3Wait::addHeld(qint64 bytes)
 {
     held = fixture->addHeld(bytes);
@@ -78,9 +85,8 @@ void TstCPage3Wait::waitShowsItsTextAndRange()
     QString text;
     int maximum = 0;
     int value = -1;
-    const Trigger trigger([this] { return fixture->progress()->isVisible(); },
+    const Trigger trigger([] { return looksAtQueue() >= 2; },
                           [&] {
-                              QTest::qWait(150);
                               text = fixture->progressText();
                               maximum = fixture->progressMaximum();
                               value = fixture->progressValue();
@@ -126,9 +132,8 @@ void TstCPage3Wait::toolStartsWhenAllIsCopied()
     addHeld();
     writeFile(fixture->path("last.txt"), "last");
     fixture->addFiles({fixture->path("last.txt")});
-    const Trigger trigger([this] { return fixture->progress()->isVisible(); },
+    const Trigger trigger([] { return looksAtQueue() >= 2; },
                           [this] {
-                              QTest::qWait(300);
                               QVERIFY(fixture->tool.calls().isEmpty());
                               held->release();
                           });
@@ -151,9 +156,8 @@ void TstCPage3Wait::emptyFilesAreWaitedFor()
     }
     fixture->addFiles(files);
     QString text;
-    const Trigger trigger([this] { return fixture->progress()->isVisible(); },
+    const Trigger trigger([] { return looksAtQueue() >= 2; },
                           [&] {
-                              QTest::qWait(300);
                               text = fixture->progressText();
                               QVERIFY(fixture->tool.calls().isEmpty());
                               held->release();
@@ -167,11 +171,7 @@ void TstCPage3Wait::emptyFilesAreWaitedFor()
 void TstCPage3Wait::pollIsLogged()
 {
     addHeld();
-    const Trigger trigger([this] { return fixture->progress()->isVisible(); },
-                          [this] {
-                              QTest::qWait(300);
-                              held->release();
-                          });
+    const Trigger trigger([] { return looksAtQueue() >= 2; }, [this] { held->release(); });
     fixture->startCreating(image);
     QVERIFY(debugLines().contains("1048576"));
     QVERIFY(debugLines().contains("CPage3::OnCreate 1048576 1048576"));
@@ -183,15 +183,13 @@ void TstCPage3Wait::windowStaysAliveWhileAClosedPageEndsItsCopy()
     addHeld();
     fixture->press("back");
     QVERIFY(!fixture->page->isVisible());
-    int ticks = 0;
-    QTimer timer;
-    connect(&timer, &QTimer::timeout, [&ticks] { ++ticks; });
-    timer.start(10);
-    QTest::qWait(300);
-    QVERIFY(ticks > 10);
+    // Back has returned, and nothing that is due already frees the page.
+    QVERIFY(held->isHolding());
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(fixture->page);
     held->release();
-    QVERIFY(QTest::qWaitFor([this] { return !fixture->page; }));
+    QVERIFY(QTest::qWaitFor([this] { return !fixture->page; }, patienceMs));
     // The copy in progress was finished.
     QCOMPARE(QFileInfo(CreatePageFixture::stagingFolder() + "/held/rest.bin").size(),
              qint64(1 << 20));

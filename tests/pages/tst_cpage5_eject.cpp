@@ -27,7 +27,7 @@ void TstCPage5Eject::ejectTakesTheChosenDrive()
 {
     addTwoDrives();
     openPage();
-    QTRY_COMPARE(drives()->count(), 2);
+    QTRY_COMPARE_WITH_TIMEOUT(drives()->count(), 2, patienceMs);
     drives()->setCurrentIndex(1);
     fixture->press("eject");
     QVERIFY(waitForCalls("hdiutil", 1));
@@ -58,7 +58,7 @@ void TstCPage5Eject::ejectOutlivesThePage()
     page->OnEject();
     QVERIFY(waitForCalls("hdiutil", 1));
     fixture->press("back");
-    QTRY_VERIFY(page.isNull());
+    QTRY_VERIFY_WITH_TIMEOUT(page.isNull(), patienceMs);
     QCOMPARE(scenario->calls().last().ended, -1);
     scenario->release("tray");
     QVERIFY(waitUntilToolsAreGone());

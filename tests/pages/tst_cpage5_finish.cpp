@@ -3,7 +3,6 @@
 
 #include "cprogressdialog.h"
 #include "disccopytest.h"
-#include "heartbeat.h"
 #include "testfiles.h"
 #include "testmain.h"
 #include "trigger.h"
@@ -168,7 +167,7 @@ void TstCPage5Finish::twoPagesCopyOneAfterTheOther()
     scenario->addOptical(" MATSHITA DVD-RAM UJ8E2 S   1.00", "/dev/disk7", "/Volumes/OTHER");
     CPage5 other(news.get());
     auto* const list = other.findChild<QComboBox*>("dvdlist");
-    QTRY_COMPARE(list->count(), 2);
+    QTRY_COMPARE_WITH_TIMEOUT(list->count(), 2, patienceMs);
     list->setCurrentIndex(1);
     other.findChild<QLineEdit*>("lineEdit")->setText("/tmp/other.iso");
     QCOMPARE(fixture->answerMessage([&] { other.OnStart(); }, "btnok", {}), copySuccess());
@@ -181,11 +180,9 @@ void TstCPage5Finish::twoPagesCopyOneAfterTheOther()
 void TstCPage5Finish::floodOfOutputEnds()
 {
     onMakeHybrid({"flood 1", DriveScenario::printing(DriveTexts::discProgress("0.99"))});
-    const Heartbeat heartbeat;
     QCOMPARE(copyToEnd(), copySuccess());
     // Every line has come before the end was told.
     QCOMPARE(fixture->progressValue(), 9900);
-    QVERIFY(heartbeat.count() > 3);
 }
 
 KORVEX_TEST_MAIN(TstCPage5Finish)

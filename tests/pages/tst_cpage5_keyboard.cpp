@@ -51,7 +51,7 @@ void TstCPage5Keyboard::spaceOnBackClosesThePage()
     QVERIFY(QTest::qWaitForWindowActive(&fixture->window));
     fixture->button("back")->setFocus(Qt::TabFocusReason);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
-    QTRY_VERIFY(page.isNull());
+    QTRY_VERIFY_WITH_TIMEOUT(page.isNull(), patienceMs);
 }
 
 void TstCPage5Keyboard::enterInTheFieldStartsNothing()
@@ -76,7 +76,7 @@ void TstCPage5Keyboard::closedPageIsFreed()
 {
     fixture->press("back");
     QVERIFY(page.isNull() || !page->isVisible());
-    QTRY_VERIFY(page.isNull());
+    QTRY_VERIFY_WITH_TIMEOUT(page.isNull(), patienceMs);
 }
 
 void TstCPage5Keyboard::pageWithoutParentWorks()

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "disccopytest.h"
-#include "testfiles.h"
 #include "testmain.h"
+#include "trigger.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -16,12 +16,8 @@ class TstCPage5MountPoint : public DiscCopyTest
 
 private slots:
     void init();
-    void mountPointIsRead_data();
-    void mountPointIsRead();
     void mountPointIsFoundInTheTable_data();
     void mountPointIsFoundInTheTable();
-    void realTablesAreRead_data();
-    void realTablesAreRead();
     void earlierMountPointIsForgotten();
     void missingMountToolLeavesAnEmptyMountPoint();
     void discWithAccentsInItsNameIsLookedForUnderAnother();
@@ -51,42 +47,6 @@ QString TstCPage5MountPoint::copiedVolume() const
     return calls.isEmpty() ? "no call" : calls.last().last();
 }
 
-void TstCPage5MountPoint::mountPointIsRead_data()
-{
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<QString>("mountPoint");
-    const QString options = " (cd9660, local, nodev, nosuid, read-only, noowners)";
-    QTest::newRow("plain") << "/dev/disk4 on /Volumes/DISC" + options << "/Volumes/DISC";
-    QTest::newRow("blanks") << "/dev/disk4 on /Volumes/MY  OWN DISC" + options
-                            << "/Volumes/MY  OWN DISC";
-    QTest::newRow("partition of it") << "/dev/disk4s1 on /Volumes/P" + options << "/Volumes/P";
-    QTest::newRow("longer number") << "/dev/disk40 on /Volumes/FORTY" + options << "/Volumes/FORTY";
-    QTest::newRow("parentheses cut it")
-        << "/dev/disk4 on /Volumes/My Disc (2)" + options << "/Volumes/My Disc";
-    QTest::newRow("the word on") << "/dev/disk4 on /Volumes/on on" + options << "/Volumes/on on";
-    QTest::newRow("no options cut its end") << "/dev/disk4 on /Volumes/DISC"
-                                            << "/Volumes/DIS";
-    QTest::newRow("options at once") << "/dev/disk4 on /(x)"
-                                     << "/";
-    QTest::newRow("other disk") << "/dev/disk5 on /Volumes/DISC" + options << "";
-    QTest::newRow("other case") << "/dev/DISK4 on /Volumes/DISC" + options << "";
-    QTest::newRow("not at the beginning") << " /dev/disk4 on /Volumes/DISC" + options << "";
-    QTest::newRow("no mount point") << "/dev/disk4 on (cd9660)"
-                                    << "";
-    QTest::newRow("device alone") << "/dev/disk4"
-                                  << "";
-    QTest::newRow("empty") << ""
-                           << "";
-}
-
-void TstCPage5MountPoint::mountPointIsRead()
-{
-    QFETCH(QString, line);
-    scenario->on("mount", {}, {DriveScenario::printing(line + '\n')});
-    copy();
-    QTEST(copiedVolume(), "mountPoint");
-}
-
 void TstCPage5MountPoint::mountPointIsFoundInTheTable_data()
 {
     QTest::addColumn<QString>("table");
@@ -96,8 +56,6 @@ void TstCPage5MountPoint::mountPointIsFoundInTheTable_data()
     };
     const QString system = DriveTexts::systemVolumes();
     QTest::newRow("none") << system << "";
-    QTest::newRow("nothing") << ""
-                             << "";
     QTest::newRow("among others") << system + volume("/dev/disk4", "/Volumes/A") + system
                                   << "/Volumes/A";
     QTest::newRow("the last wins")
@@ -106,10 +64,6 @@ void TstCPage5MountPoint::mountPointIsFoundInTheTable_data()
         << "/Volumes/C";
     QTest::newRow("the last wins although it is another disk")
         << volume("/dev/disk4", "/Volumes/A") + volume("/dev/disk41", "/Volumes/B") << "/Volumes/B";
-    QTest::newRow("carriage returns") << "/dev/disk4 on /Volumes/A (cd9660)\r\n"
-                                      << "/Volumes/A";
-    QTest::newRow("no line end") << "/dev/disk4 on /Volumes/A (cd9660)"
-                                 << "/Volumes/A";
     QTest::newRow("huge") << volume("/dev/disk4", "/Volumes/A") + system.repeated(3000)
                           << "/Volumes/A";
 }
@@ -122,33 +76,6 @@ void TstCPage5MountPoint::mountPointIsFoundInTheTable()
     QTEST(copiedVolume(), "mountPoint");
 }
 
-void TstCPage5MountPoint::realTablesAreRead_data()
-{
-    QTest::addColumn<QString>("device");
-    QTest::addColumn<QString>("mountPoint");
-    QTest::newRow("mount-parentheses-in-name.txt") << "/dev/disk4"
-                                                   << "/Volumes/My Disc";
-    QTest::newRow("mount-word-on-in-name.txt") << "/dev/disk3"
-                                               << "/Volumes/OpenZFS on OS X 1.6.1";
-    QTest::newRow("mount-system-and-image-macos10.15.txt") << "/dev/disk2"
-                                                           << "/Volumes/GuestAirMedia";
-    QTest::newRow("mount-fskit-macos15.txt") << "/dev/disk6"
-                                             << "/Volumes/MIC CARD";
-}
-
-void TstCPage5MountPoint::realTablesAreRead()
-{
-    QFETCH(QString, device);
-    const QByteArray table =
-        readFile(QString(KORVEX_TEST_DATA "/mount/") + QTest::currentDataTag());
-    QVERIFY(!table.isEmpty());
-    scenario->on("mount", {}, {DriveScenario::printing(QString::fromUtf8(table))});
-    drives()->setItemData(0, device);
-    copy();
-    QTEST(copiedVolume(), "mountPoint");
-}
-
-// The disc has been taken out since: its old place is not copied once more.
 void TstCPage5MountPoint::earlierMountPointIsForgotten()
 {
     copy();
@@ -184,8 +111,15 @@ void TstCPage5MountPoint::lateLinesOfMountAreReadOnce()
         return DriveScenario::printing(
             DriveTexts::mountedVolume("/dev/disk4", mountPoint, "cd9660"));
     };
-    scenario->on("mount", {}, {volume("/Volumes/A"), "sleep 50", volume("/Volumes/B")});
+    scenario->on("mount", {},
+                 {volume("/Volumes/A"), scenario->holding("late"), volume("/Volumes/B")});
+    const Trigger release([&] { return scenario->callsOf("mount").size() == 1; },
+                          [&] {
+                              QVERIFY(scenario->isHeld("late"));
+                              scenario->release("late");
+                          });
     copy();
+    QVERIFY(release.hasFired());
     QCOMPARE(copiedVolume(), QString("/Volumes/B"));
 }
 

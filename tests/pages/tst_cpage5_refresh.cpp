@@ -116,9 +116,9 @@ void TstCPage5Refresh::secondRefreshWhileOneRunsListsNothingTwice()
 
 void TstCPage5Refresh::secondRefreshEndsTheToolOfTheFirst()
 {
-    scenario->on("drutil", {"status"}, {"sleep 60000"});
+    scenario->on("drutil", {"status"}, {scenario->holding("never released")});
     openPage();
-    QVERIFY(waitForCalls("drutil", 1));
+    QVERIFY(scenario->isHeld("never released"));
     scenario->on("drutil", {"status"}, {});
     tellDriveChange();
     QVERIFY(waitForCalls("drutil", 2));
@@ -127,26 +127,24 @@ void TstCPage5Refresh::secondRefreshEndsTheToolOfTheFirst()
 }
 
 // It has been sent when the second refresh begins, and is received after that.
+// The answer waits to be delivered when the next refresh comes.
 void TstCPage5Refresh::lineOfAnEarlierRefreshIsNotListed()
 {
     scenario->on("drutil", {"status"},
-                 {scenario->holding("line"),
-                  DriveScenario::printing(DriveTexts::opticalStatus(firstDrive())), "sleep 60000"});
-    openPage();
-    QVERIFY(waitForCalls("drutil", 1));
-    scenario->release("line");
-    QTest::qSleep(200);
+                 {DriveScenario::printing(DriveTexts::opticalStatus(firstDrive()))});
+    page = new CPage5(news.get());
+    const auto isCalled = [this] { return scenario->callsOf("drutil").size() == 1; };
+    QVERIFY(PageFixture::waitWithoutEvents(isCalled));
+    QVERIFY(PageFixture::waitUntilAllIsSent());
     QCOMPARE(driveTexts(), QStringList());
     scenario->on("drutil", {"status"},
                  {DriveScenario::printing(DriveTexts::opticalStatus(secondDrive()))});
     tellDriveChange();
     QVERIFY(waitForDrives({secondText()}));
     QVERIFY(waitUntilToolsAreGone());
-    QCoreApplication::processEvents();
     QCOMPARE(driveTexts(), QStringList(secondText()));
 }
 
-// What counts is the entry that was current when the list was last cleared: none.
 void TstCPage5Refresh::choiceIsForgottenByASecondRefreshBeforeTheAnswer()
 {
     addTwoDrives();

@@ -148,7 +148,7 @@ void TstCPage5Start::deviceOfTheChosenDriveIsCopied()
 {
     scenario->addOptical(" MATSHITA DVD-RAM UJ8E2 S   1.00", "/dev/disk7", "/Volumes/OTHER");
     emit news->sigdrivechange();
-    QTRY_COMPARE(drives()->count(), 2);
+    QTRY_COMPARE_WITH_TIMEOUT(drives()->count(), 2, patienceMs);
     drives()->setCurrentIndex(1);
     copy();
     QCOMPARE(currdev, QString("/dev/disk7"));

@@ -95,7 +95,7 @@ void TstDiscCopyPictures::reading()
 {
     fill();
     startHeld({DriveScenario::printing(DriveTexts::makingHybrid({"0.25", "0.4275"}))});
-    QTRY_COMPARE(fixture->progressValue(), 4275);
+    QTRY_COMPARE_WITH_TIMEOUT(fixture->progressValue(), 4275, patienceMs);
     Pictures::save(fixture->progress(), "disccopy-progress");
     scenario->release("copied");
     QCOMPARE(closeMessage(), copySuccess());

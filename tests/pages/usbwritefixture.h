@@ -40,7 +40,7 @@ public:
 
     // Presses Burn, says yes and closes the message at the end. Returns the texts of both dialogs.
     // The limit is for the coming of each.
-    QStringList write(int dialogLimitMs = 10000) const;
+    QStringList write(int dialogLimitMs = patienceMs) const;
     // The commands of the burns so far, in order, without those that filled the lists.
     QList<QStringList> commands() const;
     QList<DriveCall> calls() const;

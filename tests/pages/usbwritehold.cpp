@@ -11,7 +11,7 @@ namespace
 {
 
 constexpr int lookMs = 10;
-constexpr int mostLooks = 1000;
+constexpr int mostLooks = patienceMs / lookMs;
 const QString gate("step");
 
 bool fits(const QStringList& pattern, const QStringList& arguments)

@@ -34,8 +34,7 @@ public:
     // A row for each.
     static void addRows();
 
-    // The callback returns true when the tool may go on; it is called again until then, for at most
-    // ten seconds.
+    // The callback returns true when the tool may go on; it is called again until then.
     UsbWriteHold(UsbWriteFixture& fixture, const Step& step, const std::function<bool()>& callback);
 
     // The step was held and the callback content.
