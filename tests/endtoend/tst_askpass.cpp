@@ -13,7 +13,7 @@ namespace
 {
 
 const QString programFolder = KORVEX_PROGRAM_FOLDER;
-constexpr int patience = 30000; // ms
+constexpr int patience = 120000; // ms
 
 struct Result
 {

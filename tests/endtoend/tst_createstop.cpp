@@ -8,43 +8,49 @@
 #include "testcase.h"
 #include "testfiles.h"
 #include "testmain.h"
+#include "toolstopper.h"
 #include "trigger.h"
-
-#include <csignal>
 
 namespace
 {
 
 constexpr int fileCount = 12;
-constexpr qint64 fileBytes = 5'000'000;
-constexpr qint64 largeFileBytes = 160'000'000;
-constexpr int stops = 30; // a third of them at each moment
-constexpr int stopLimitMs = 2000;
+constexpr qint64 fileBytes = 100'000;
+constexpr qint64 largeFileBytes = 2'000'000;
+constexpr int rounds = 3; // of stops at each moment
+constexpr int limitMs = 60'000;
+const QString success = "Create ISO successfully!";
 
 } // namespace
 
 // Stop with the real tool at any moment, over and over in one process, and a right image after it.
+// The tool is held where it is to be stopped.
 class TstCreateStop : public TestCase
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void cleanupTestCase();
+    void init();
+    void cleanup();
     void stopInTheCopyWaitStillGivesTheImage();
-    void manyStopsInARow();
+    void stopEndsTheTool_data();
+    void stopEndsTheTool();
+    void manyStopsLeaveNothingBehind();
     void imageAfterAStopIsRight();
 
 private:
-    bool waitForMoment(int moment) const;
+    void stage() const;
+    // Starts the tool, holds it when the image is larger than that, and presses Stop.
+    void stopAt(qint64 bytes) const;
     void verifyImage() const;
 
     std::unique_ptr<CreatePageFixture> fixture;
     QString image;
 };
 
-void TstCreateStop::initTestCase()
+void TstCreateStop::init()
 {
+    TestCase::init();
     fixture = std::make_unique<CreatePageFixture>();
     image = fixture->path("out.iso");
     for (quint32 i = 0; i < fileCount; ++i)
@@ -52,64 +58,90 @@ void TstCreateStop::initTestCase()
     writeRandomFile(fixture->path("tree/large.bin"), largeFileBytes, fileCount);
 }
 
-void TstCreateStop::cleanupTestCase()
+void TstCreateStop::cleanup()
 {
     fixture.reset();
+    TestCase::cleanup();
+}
+
+void TstCreateStop::stage() const
+{
+    fixture->addFolder(fixture->path("tree"));
+    QVERIFY(fixture->waitUntilStaged());
 }
 
 void TstCreateStop::verifyImage() const
 {
     extractImage(image, fixture->path("out"));
     QCOMPARE(hashesBelow(fixture->path("out/tree")), hashesBelow(fixture->path("tree")));
-    QVERIFY(QDir(fixture->path("out")).removeRecursively() && QFile::remove(image));
 }
 
-// At the start at once, in the middle and near the end by the size of the image.
-bool TstCreateStop::waitForMoment(int moment) const
+void TstCreateStop::stopAt(qint64 bytes) const
 {
-    const qint64 awaited = moment == 1 ? largeFileBytes / 10 : largeFileBytes * 3 / 4;
-    const auto isReached = [&] { return QFileInfo(image).size() > awaited; };
-    return moment == 0 || QTest::qWaitFor(isReached, 20000);
+    ToolStopper author("-o");
+    fixture->startCreating(image);
+    QVERIFY(author.catchWhen([&] { return QFileInfo(image).size() >= bytes; }));
+    QVERIFY(!fixture->isUsable());
+    fixture->pressStop();
+    QVERIFY(fixture->isUsable());
+    QTRY_VERIFY_WITH_TIMEOUT(author.isToEnd(), limitMs);
+    author.letGo();
 }
 
 void TstCreateStop::stopInTheCopyWaitStillGivesTheImage()
 {
-    bool wasWaiting = false;
-    const Trigger trigger(
-        [this] { return fixture->progress()->isVisible() && fixture->progressValue() > 0; },
-        [&] {
-            wasWaiting = fixture->progressText() == "Copy files and folders...";
-            fixture->pressStop();
-        });
+    const auto held = fixture->addHeld(1000);
     fixture->addFolder(fixture->path("tree"));
+    const Trigger trigger(
+        [this] {
+            return fixture->progress()->isVisible() &&
+                   fixture->progressText() == "Copy files and folders...";
+        },
+        [&] {
+            fixture->pressStop();
+            held->release();
+        });
     fixture->startCreating(image);
-    QVERIFY(wasWaiting);
+    QVERIFY(trigger.hasFired());
     QVERIFY(!fixture->progress()->isVisible());
-    QCOMPARE(fixture->waitForMessage(), QString("Create ISO successfully!"));
+    QCOMPARE(fixture->waitForMessage(), success);
     verifyImage();
 }
 
-void TstCreateStop::manyStopsInARow()
+void TstCreateStop::stopEndsTheTool_data()
 {
+    QTest::addColumn<qint64>("bytes");
+    QTest::newRow("before its first step") << qint64(0);
+    QTest::newRow("in the middle") << largeFileBytes / 10;
+    QTest::newRow("near its end") << largeFileBytes * 9 / 10;
+}
+
+void TstCreateStop::stopEndsTheTool()
+{
+    QFETCH(qint64, bytes);
+    stage();
+    stopAt(bytes);
+    QTRY_VERIFY_WITH_TIMEOUT(childProcesses().isEmpty(), limitMs);
+    // Whatever the run has to tell comes before its thread is gone.
+    QTRY_COMPARE_WITH_TIMEOUT(runnerThreadCount(), 0, limitMs);
+    QCoreApplication::processEvents();
+    QVERIFY2(!QApplication::activeModalWidget(), "a success message after Stop");
+    QVERIFY(QFileInfo(image).size() < largeFileBytes);
+}
+
+void TstCreateStop::manyStopsLeaveNothingBehind()
+{
+    stage();
     int descriptors = 0;
-    for (int run = 0; run < stops; ++run) {
-        fixture->startCreating(image);
-        QVERIFY(waitForMoment(run % 3));
-        // A tool that is nearly done is held until Stop is pressed.
-        if (run % 3 == 2) {
-            for (const qint64 tool : childProcesses())
-                ::kill(pid_t(tool), SIGSTOP);
+    for (int round = 0; round < rounds; ++round) {
+        for (const qint64 bytes : {qint64(0), largeFileBytes / 10, largeFileBytes * 9 / 10}) {
+            stopAt(bytes);
+            QTRY_VERIFY_WITH_TIMEOUT(childProcesses().isEmpty(), limitMs);
+            QTRY_COMPARE_WITH_TIMEOUT(runnerThreadCount(), 0, limitMs);
+            // The question whether to replace it is none of this test's business.
+            QFile::remove(image);
         }
-        QVERIFY2(!fixture->isUsable(), "the tool ended before it could be stopped");
-        fixture->pressStop();
-        QVERIFY(fixture->isUsable());
-        QVERIFY(QTest::qWaitFor([] { return childProcesses().isEmpty(); }, stopLimitMs));
-        QTest::qWait(50);
-        QVERIFY2(!QApplication::activeModalWidget(), "a success message after Stop");
-        QTRY_COMPARE(runnerThreadCount(), 0);
-        // The question whether to replace it is none of this test's business.
-        QFile::remove(image);
-        if (run == 2)
+        if (round == 0)
             descriptors = descriptorCount();
     }
     QVERIFY(descriptorCount() <= descriptors);
@@ -117,13 +149,16 @@ void TstCreateStop::manyStopsInARow()
 
 void TstCreateStop::imageAfterAStopIsRight()
 {
+    stage();
+    ToolStopper author("-o");
     fixture->startCreating(image);
-    QVERIFY(waitForMoment(1));
+    QVERIFY(author.catchWhen([&] { return QFileInfo(image).size() > largeFileBytes / 10; }));
     fixture->pressStop();
     QFile::remove(image);
-    // At once, while the stopped tool may still be on its way out.
+    // At once, while the stopped tool is still on its way out.
     fixture->startCreating(image);
-    QCOMPARE(fixture->waitForMessage(), QString("Create ISO successfully!"));
+    author.letGo();
+    QCOMPARE(fixture->waitForMessage(), success);
     verifyImage();
 }
 

@@ -6,8 +6,8 @@
 #include "processcounts.h"
 #include "testcase.h"
 #include "testmain.h"
+#include "toolstopper.h"
 
-#include <QElapsedTimer>
 #include <QProgressBar>
 #include <QTemporaryDir>
 
@@ -15,72 +15,113 @@ namespace
 {
 
 constexpr int fileCount = 12;
-constexpr qint64 fileBytes = 5'000'000;
-// Long enough on its way to be stopped in.
-constexpr qint64 lastFileBytes = 300'000'000;
-constexpr int stops = 51; // a third of them at each moment
-constexpr int stopLimitMs = 2000;
+constexpr qint64 fileBytes = 100'000;
+constexpr int rounds = 4; // of stops at each moment
+constexpr int limitMs = 60'000;
+// The archiver is held as soon as this file is there; -1 before it does anything.
+const QList<int> moments{-1, fileCount / 2, fileCount - 1};
 
 } // namespace
 
-// Stop at any moment, over and over in one process.
+// Stop at any moment, over and over in one process. The archiver is held where it is to be stopped.
 class TstExtractStop : public TestCase
 {
     Q_OBJECT
 
 private slots:
     void initTestCase();
-    void fiftyStopsInARow();
+    void init();
+    void cleanup();
+    void stopEndsTheArchiver_data();
+    void stopEndsTheArchiver();
+    void manyStopsLeaveNothingBehind();
     void extractionAfterAStopIsWhole();
 
 private:
-    bool waitForMoment(int moment) const;
+    // Starts the extraction, holds the archiver at that moment and presses Stop.
+    void stopAt(int moment);
 
     QTemporaryDir folder;
     QString image;
     QString output;
     QStringList names;
+    std::unique_ptr<ExtractSession> session;
 };
 
 void TstExtractStop::initTestCase()
 {
     for (quint32 i = 0; i < fileCount; ++i) {
         names.append(QString("part %1.bin").arg(i, 2, 10, QChar('0')));
-        writeRandomFile(folder.filePath("tree/" + names.last()),
-                        i + 1 == fileCount ? lastFileBytes : fileBytes, i);
+        writeRandomFile(folder.filePath("tree/" + names.last()), fileBytes, i);
     }
     image = folder.filePath("image.iso");
     makeImage(folder.filePath("tree"), image);
     output = folder.filePath("out");
+}
+
+void TstExtractStop::init()
+{
+    TestCase::init();
     QVERIFY(QDir().mkpath(output));
+    session = std::make_unique<ExtractSession>();
+    QVERIFY(session->load(image));
+    QVERIFY(session->tick(names));
 }
 
-// At the start at once, in the middle when some files are there, at the end when the last is.
-bool TstExtractStop::waitForMoment(int moment) const
+void TstExtractStop::cleanup()
 {
-    const QString awaited = output + '/' + (moment == 1 ? names.at(4) : names.last());
-    return moment == 0 || QTest::qWaitFor([&awaited] { return QFile::exists(awaited); }, 5000);
+    session.reset();
+    QVERIFY(QDir(output).removeRecursively());
+    TestCase::cleanup();
 }
 
-void TstExtractStop::fiftyStopsInARow()
+void TstExtractStop::stopAt(int moment)
 {
-    ExtractSession session;
-    QVERIFY(session.load(image));
+    ToolStopper archiver("x");
+    session->beginExtraction(output);
+    QVERIFY(archiver.catchWhen(
+        [&] { return moment < 0 || QFile::exists(output + '/' + names.at(moment)); }));
+    QVERIFY(!session->isUsable());
+    session->pressStop();
+    QVERIFY(session->isUsable());
+    QTRY_VERIFY_WITH_TIMEOUT(archiver.isToEnd(), limitMs);
+    archiver.letGo();
+}
+
+void TstExtractStop::stopEndsTheArchiver_data()
+{
+    QTest::addColumn<int>("moment");
+    QTest::newRow("before its first step") << moments.at(0);
+    QTest::newRow("in the middle") << moments.at(1);
+    QTest::newRow("in its last file") << moments.at(2);
+}
+
+void TstExtractStop::stopEndsTheArchiver()
+{
+    QFETCH(int, moment);
+    stopAt(moment);
+    QTRY_VERIFY_WITH_TIMEOUT(childProcesses().isEmpty(), limitMs);
+    // Whatever the run has to tell comes before its thread is gone.
+    QTRY_COMPARE_WITH_TIMEOUT(runnerThreadCount(), 0, limitMs);
+    QCoreApplication::processEvents();
+    QVERIFY2(!QApplication::activeModalWidget(), "a success message after Stop");
+    QVERIFY(session->isUsable());
+    // It may write the file to its end that it is at.
+    QVERIFY(moment == moments.last() || !QFile::exists(output + '/' + names.last()));
+}
+
+void TstExtractStop::manyStopsLeaveNothingBehind()
+{
     int descriptors = 0;
-    for (int run = 0; run < stops; ++run) {
-        QVERIFY(session.tick(names));
-        session.beginExtraction(output);
-        QVERIFY(waitForMoment(run % 3));
-        QVERIFY2(!session.isUsable(), "the extraction ended before it could be stopped");
-        session.pressStop();
-        QVERIFY(session.isUsable());
-        QVERIFY(QTest::qWaitFor([] { return childProcesses().isEmpty(); }, stopLimitMs));
-        QVERIFY(!QApplication::activeModalWidget());
-        QTest::qWait(50);
-        QVERIFY2(!QApplication::activeModalWidget(), "a success message after Stop");
-        QVERIFY(QDir(output).removeRecursively() && QDir().mkpath(output));
-        QTRY_COMPARE(runnerThreadCount(), 0);
-        if (run == 2)
+    for (int round = 0; round < rounds; ++round) {
+        for (const int moment : moments) {
+            QVERIFY(session->tick(names));
+            stopAt(moment);
+            QTRY_VERIFY_WITH_TIMEOUT(childProcesses().isEmpty(), limitMs);
+            QTRY_COMPARE_WITH_TIMEOUT(runnerThreadCount(), 0, limitMs);
+            QVERIFY(QDir(output).removeRecursively() && QDir().mkpath(output));
+        }
+        if (round == 0)
             descriptors = descriptorCount();
     }
     QVERIFY(descriptorCount() <= descriptors);
@@ -88,14 +129,14 @@ void TstExtractStop::fiftyStopsInARow()
 
 void TstExtractStop::extractionAfterAStopIsWhole()
 {
-    ExtractSession session;
-    QVERIFY(session.load(image));
-    QVERIFY(session.tick(names));
-    session.beginExtraction(output);
-    session.pressStop();
-    // At once, while the stopped archiver may still be on its way out.
-    session.beginExtraction(output);
-    QCOMPARE(session.waitForSuccess(), QString("Extract files successfully."));
+    ToolStopper archiver("x");
+    session->beginExtraction(output);
+    QVERIFY(archiver.catchWhen([this] { return QFile::exists(output + '/' + names.at(4)); }));
+    session->pressStop();
+    // At once, while the stopped archiver is still on its way out.
+    session->beginExtraction(output);
+    archiver.letGo();
+    QCOMPARE(session->waitForSuccess(), QString("Extract files successfully."));
     QCOMPARE(hashesBelow(output), hashesBelow(folder.filePath("tree")));
 }
 

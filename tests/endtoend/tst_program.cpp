@@ -24,6 +24,7 @@
 namespace
 {
 
+constexpr int limitMs = 60'000;
 const char* const closeArgument = "--close-while-extracting";
 const char* const leaveArgument = "--close-while-workers-write-the-log";
 
@@ -32,16 +33,24 @@ QString toolPath()
     return QCoreApplication::applicationDirPath() + "/7z/7z";
 }
 
-void loadAndExtract(CPage2& page)
+// Whether the font engine is loaded, which the first window is drawn with.
+bool hasDrawnItsWindow(const QProcess& program)
+{
+    QFile maps(QString("/proc/%1/maps").arg(program.processId()));
+    return maps.open(QIODevice::ReadOnly) && maps.readAll().contains("/fonts/");
+}
+
+void loadAndExtract(CPage2& page, const QString& gate)
 {
     ModalDriver driver;
     driver.typePath(KORVEX_TEST_DATA "/7z/list-plain-26.02.txt");
     page.OnLoadISO();
     QTableWidget* const table = page.findChild<QTableWidget*>("list");
-    if (!QTest::qWaitFor([table] { return table->rowCount() > 0; }, 10000))
+    if (!QTest::qWaitFor([table] { return table->rowCount() > 0; }, limitMs))
         qFatal("not loaded");
     ScriptedCalls(toolPath())
-        .setScript({"out 10% 1 - big.bin\\n", "lines 1000 line", "sleep 4000"});
+        .setScript(
+            {"out 10% 1 - big.bin\\n", "lines 1000 line", "hold " + gate, "hold " + gate + "-2"});
     table->item(0, 0)->setCheckState(Qt::Checked);
     driver.typePath(QDir::tempPath());
     page.OnExtract();
@@ -56,8 +65,10 @@ int closeWhileExtracting(int argc, char* argv[])
     MainWindow window(nullptr);
     window.show();
     window.onExtract();
-    loadAndExtract(*window.findChild<CPage2*>());
-    QTest::qWait(300);
+    const QString gate = QString::fromLocal8Bit(argv[2]);
+    loadAndExtract(*window.findChild<CPage2*>(), gate);
+    if (!QTest::qWaitFor([&gate] { return QFileInfo::exists(gate + ".reached"); }, limitMs))
+        qFatal("the tool does not run");
     window.onClose();
     return 1; // never reached
 }
@@ -143,9 +154,12 @@ void TstProgram::startsAndStays()
     program.setProcessEnvironment(environment);
     program.start(KORVEX_PROGRAM, QStringList());
     QVERIFY(program.waitForStarted());
-    QVERIFY(!program.waitForFinished(1000));
+    // It draws its window and still runs then, or it would not end of this.
+    QTRY_VERIFY_WITH_TIMEOUT(hasDrawnItsWindow(program), limitMs);
     program.terminate();
-    QVERIFY(program.waitForFinished(5000));
+    QVERIFY(program.waitForFinished(limitMs));
+    QCOMPARE(program.exitStatus(), QProcess::CrashExit);
+    QCOMPARE(program.exitCode(), SIGTERM);
     const QString errors = QString::fromUtf8(program.readAllStandardError());
     for (const char* const sign : {"connect", "Could not", "null", "QPixmap", "QThread", "Parse"})
         QVERIFY2(!errors.contains(sign), qPrintable(errors));
@@ -153,16 +167,20 @@ void TstProgram::startsAndStays()
 
 void TstProgram::closeButtonEndsTheProcessWhileAToolRuns()
 {
-    for (int run = 0; run < 5; ++run) {
+    for (int run = 0; run < 3; ++run) {
+        const QTemporaryDir gates;
+        const QString gate = gates.filePath("gate");
         QProcess program;
         program.setProcessChannelMode(QProcess::MergedChannels);
-        program.start(QCoreApplication::applicationFilePath(), {closeArgument});
-        QVERIFY2(program.waitForFinished(20000), program.readAll());
+        program.start(QCoreApplication::applicationFilePath(), {closeArgument, gate});
+        QVERIFY2(program.waitForFinished(limitMs), program.readAll());
         QCOMPARE(program.exitStatus(), QProcess::NormalExit);
         QCOMPARE(program.exitCode(), 0);
         // The tool goes on without the program.
-        QCOMPARE(processesOf("scriptedtool").size(), 1);
-        QVERIFY(QTest::qWaitFor([] { return processesOf("scriptedtool").isEmpty(); }, 10000));
+        writeFile(gate, {});
+        QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(gate + "-2.reached"), limitMs);
+        writeFile(gate + "-2", {});
+        QTRY_VERIFY_WITH_TIMEOUT(processesOf("scriptedtool").isEmpty(), limitMs);
     }
 }
 
@@ -186,7 +204,7 @@ int main(int argc, char* argv[])
 {
     if (argc == 2 && qstrcmp(argv[1], leaveArgument) == 0)
         return closeWhileWorkersWriteTheLog(argc, argv);
-    if (argc == 2 && qstrcmp(argv[1], closeArgument) == 0)
+    if (argc == 3 && qstrcmp(argv[1], closeArgument) == 0)
         return closeWhileExtracting(argc, argv);
     return runTests<TstProgram>(argc, argv);
 }

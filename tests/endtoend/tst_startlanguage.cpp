@@ -24,6 +24,8 @@ private slots:
 namespace
 {
 
+constexpr int limitMs = 60'000;
+
 // The program in the given locale, until it goes out of scope.
 class RunningProgram
 {
@@ -126,8 +128,8 @@ void TstStartLanguage::localeChoosesTheTranslation()
     if (code != "en")
         expected.append("qtbase_" + code + ".qm");
     RunningProgram program(KORVEX_PROGRAM, variables);
-    QVERIFY(QTest::qWaitFor([&] { return program.hasDrawnItsWindow(); }, 20000));
-    QTRY_COMPARE(program.translations(), expected);
+    QVERIFY(QTest::qWaitFor([&] { return program.hasDrawnItsWindow(); }, limitMs));
+    QTRY_COMPARE_WITH_TIMEOUT(program.translations(), expected, limitMs);
     QVERIFY(program.isRunning());
 }
 
@@ -146,11 +148,12 @@ void TstStartLanguage::translationThatIsMissingLeavesEnglish()
     RunningProgram swedish(path, {"LC_ALL=sv_SE.UTF-8"});
     RunningProgram german(path, {"LC_ALL=de_DE.UTF-8"});
     QVERIFY(QTest::qWaitFor(
-        [&] { return swedish.hasDrawnItsWindow() && german.hasDrawnItsWindow(); }, 20000));
+        [&] { return swedish.hasDrawnItsWindow() && german.hasDrawnItsWindow(); }, limitMs));
     QVERIFY(swedish.translations().isEmpty());
     QVERIFY(swedish.isRunning());
     // The same copy works for a language that is there.
-    QTRY_COMPARE(german.translations(), QStringList({"qt_de.qm", "qtbase_de.qm"}));
+    QTRY_COMPARE_WITH_TIMEOUT(german.translations(), QStringList({"qt_de.qm", "qtbase_de.qm"}),
+                              limitMs);
 }
 
 KORVEX_TEST_MAIN(TstStartLanguage)

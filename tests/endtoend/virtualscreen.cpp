@@ -11,7 +11,7 @@
 namespace
 {
 
-constexpr int patience = 30000; // ms
+constexpr int patience = 120000; // ms
 
 } // namespace
 
