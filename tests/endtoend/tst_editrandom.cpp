@@ -17,7 +17,7 @@
 namespace
 {
 
-constexpr int rounds = 10;
+constexpr int rounds = 4;
 constexpr int sequences = 30; // of each round, which begins with a load and ends with a save
 constexpr int operations = 12;
 constexpr int maxDepth = 5;

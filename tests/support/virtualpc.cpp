@@ -6,6 +6,7 @@
 #include "testfiles.h"
 
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QTest>
 
 namespace
@@ -13,7 +14,8 @@ namespace
 
 constexpr int columns = 80;
 constexpr int rows = 25;
-constexpr int lookMs = 250;
+constexpr int answerMs = 60000;
+constexpr int pauseMs = 100; // to leave the machine some time
 constexpr int endMs = 30000;
 
 } // namespace
@@ -37,12 +39,17 @@ VirtualPc::~VirtualPc()
 // Every other byte is a colour.
 QString VirtualPc::screen()
 {
+    constexpr int bytes = 2 * columns * rows;
     const QString file = folder.filePath("screen");
+    QFile::remove(file);
     machine.write("pmemsave 0xb8000 4000 \"" + file.toUtf8() + "\"\n");
-    QTest::qWait(lookMs);
-    const QByteArray memory = readFile(file);
+    const auto isThere = [&] {
+        return QFileInfo(file).size() == bytes || machine.state() == QProcess::NotRunning;
+    };
+    const bool isAnswered = QTest::qWaitFor(isThere, answerMs);
+    const QByteArray memory = isAnswered ? readFile(file) : QByteArray();
     QString text;
-    for (int row = 0; row < rows && memory.size() == 2 * columns * rows; ++row) {
+    for (int row = 0; row < rows && memory.size() == bytes; ++row) {
         for (int column = 0; column < columns; ++column)
             text += QChar::fromLatin1(memory.at(2 * (row * columns + column)));
         text += '\n';
@@ -59,6 +66,7 @@ QString VirtualPc::screenWith(const QString& text, int limitMs)
         if (machine.state() == QProcess::NotRunning)
             return "The virtual PC does not run: " + machine.readAll() + machine.errorString();
         last = screen();
+        QTest::qWait(pauseMs);
     }
     return last;
 }
