@@ -7,7 +7,7 @@
 #include <QPainter>
 #include <QTableWidget>
 #include <QTreeWidget>
-#include <QtTest>
+#include <QTest>
 
 namespace
 {
