@@ -81,6 +81,8 @@ void TstCPage5Wait::pageIsClosedWhileMountIsSlow()
     page->OnStart();
     QVERIFY(close.hasFired());
     QVERIFY(isThere);
+    // No copy was begun, not even one that would end with the page.
+    QVERIFY(!fixture->progress()->isVisible());
     QTRY_VERIFY_WITH_TIMEOUT(page.isNull(), patienceMs);
     QVERIFY(waitUntilToolsAreGone());
     QCOMPARE(scenario->callsOf("hdiutil"), QList<QStringList>());
@@ -115,6 +117,7 @@ void TstCPage5Wait::driveChangeWhileCopyingChangesTheListAlone()
     scenario->removeDisk("/dev/disk4");
     emit news->sigdrivechange();
     QTRY_COMPARE_WITH_TIMEOUT(drives()->count(), 0, patienceMs);
+    QVERIFY(waitForCalls("drutil", 2));
     QTRY_COMPARE_WITH_TIMEOUT(runnerThreadCount(), 1, patienceMs);
     QVERIFY(fixture->progress()->isVisible());
     QCOMPARE(fixture->progressValue(), 2500);
