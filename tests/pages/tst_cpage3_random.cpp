@@ -163,7 +163,8 @@ void TstCPage3Random::runSequence()
     // Few, so that the same ones come again and again.
     usedFiles = QStringList{any(sources.files()), any(sources.files()), any(sources.files())};
     usedFolders = QStringList{any(sources.folders()), any(sources.folders())};
-    // Half of them do nothing but add the same folder at the top, so that it meets what is left of itself.
+    // Half of them do nothing but add the same folder at the top, so that it meets what is left of
+    // itself.
     narrow = random.bounded(2) == 0;
     if (narrow)
         usedFolders = QStringList(sources.folders().first());
