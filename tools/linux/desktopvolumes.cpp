@@ -31,7 +31,7 @@ constexpr const char* tableInterface = "org.freedesktop.UDisks2.PartitionTable";
 constexpr const char* volumeInterface = "org.freedesktop.UDisks2.Filesystem";
 constexpr const char* loopInterface = "org.freedesktop.UDisks2.Loop";
 constexpr const char* driveInterface = "org.freedesktop.UDisks2.Drive";
-constexpr quint64 partitionStart = 1024 * 1024;
+constexpr quint64 partitionStart = quint64(1024) * 1024;
 // Formatting takes its time, and so does a user who looks for a password.
 constexpr int answerLimitMs = 15 * 60 * 1000;
 constexpr int pollMs = 100;
