@@ -98,6 +98,9 @@ function(korvex_run_test name)
   if(NOT ARG_TIMEOUT)
     set(ARG_TIMEOUT 120)
   endif()
+  if(KORVEX_SANITIZE)
+    math(EXPR ARG_TIMEOUT "5 * ${ARG_TIMEOUT}")
+  endif()
   list(TRANSFORM ARG_UNSET PREPEND --unset=)
   add_test(NAME ${name}
     COMMAND ${CMAKE_COMMAND} -E env ${ARG_UNSET} ${ARG_LAUNCHER} $<TARGET_FILE:${ARG_TARGET}>
