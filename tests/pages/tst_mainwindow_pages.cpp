@@ -14,7 +14,10 @@
 #include "usermouse.h"
 
 #include <QApplication>
+#include <QHeaderView>
 #include <QPointer>
+#include <QStyleOption>
+#include <QTableWidget>
 
 // What the home screen's function buttons open, and where that lies.
 class TstMainWindowPages : public MainWindowTest
@@ -26,6 +29,8 @@ private slots:
     void cleanup();
     void buttonsShowThePictureOfTheirState_data();
     void buttonsShowThePictureOfTheirState();
+    void entriesStandInATableWithItsColours_data();
+    void entriesStandInATableWithItsColours();
     void extractOpensItsPage();
     void createOpensItsPage();
     void closedCreatePageIsFreed();
@@ -125,6 +130,40 @@ void TstMainWindowPages::buttonsShowThePictureOfTheirState()
         seen << each->objectName() + ' ' + picture + ' ' + shownPictures(each, picture);
     }
     QCOMPARE(seen, buttons);
+}
+
+void TstMainWindowPages::entriesStandInATableWithItsColours_data()
+{
+    QTest::addColumn<QByteArray>("slot");
+    QTest::newRow("extract") << QByteArray("onExtract");
+    QTest::newRow("edit") << QByteArray("onEdit");
+}
+
+void TstMainWindowPages::entriesStandInATableWithItsColours()
+{
+    QFETCH(QByteArray, slot);
+    QVERIFY(QMetaObject::invokeMethod(window.get(), slot));
+    const auto* const table = window->findChild<QTableWidget*>("list");
+    QVERIFY(table);
+    QStyleOption option;
+    option.initFrom(table);
+    const int grid = table->style()->styleHint(QStyle::SH_Table_GridLineColor, &option, table);
+    QCOMPARE(QColor::fromRgb(static_cast<QRgb>(grid)), QColor("#C2EFFD"));
+    QCOMPARE(table->palette().color(QPalette::Highlight), QColor("#C2EFFD"));
+
+    // The headers' size is that of a header which is told nothing but this.
+    QTableWidget other(0, table->columnCount());
+    other.setFont(table->font());
+    other.setStyleSheet("QHeaderView::section { font: 13pt; }");
+    for (int column = 0; column < table->columnCount(); ++column)
+        other.setHorizontalHeaderItem(column, table->horizontalHeaderItem(column)->clone());
+    other.ensurePolished();
+    other.horizontalHeader()->ensurePolished();
+    for (int column = 0; column < table->columnCount(); ++column)
+        QCOMPARE(table->horizontalHeader()->sectionSizeHint(column),
+                 other.horizontalHeader()->sectionSizeHint(column));
+    QCOMPARE(table->horizontalHeader()->sizeHint().height(),
+             other.horizontalHeader()->sizeHint().height());
 }
 
 void TstMainWindowPages::extractOpensItsPage()

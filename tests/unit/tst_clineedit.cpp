@@ -8,6 +8,7 @@
 #include "usermouse.h"
 
 #include <QSignalSpy>
+#include <QWindow>
 
 #include <memory>
 
@@ -117,8 +118,16 @@ void TstCLineEdit::thirdPictureMakesAButton()
 void TstCLineEdit::screenFollowsTheMouse()
 {
     edit->SetImage(picture(Qt::red), picture(Qt::green), picture(Qt::blue), QPoint(-30, 3));
+    edit->setFocus(); // else the press would bring it
     const QPoint inside = edit->getRect().center();
     const QPoint beside(50, 10);
+    QTRY_COMPARE_WITH_TIMEOUT(onScreen(edit, inside), QColor(Qt::red), 30'000);
+    // Enters without having moved, as when a window above it goes.
+    QCursor::setPos(edit->mapToGlobal(inside));
+    QEnterEvent enter(inside, edit->mapTo(window.get(), inside), edit->mapToGlobal(inside));
+    QApplication::sendEvent(edit, &enter);
+    QTRY_COMPARE_WITH_TIMEOUT(onScreen(edit, inside), QColor(Qt::green), 30'000);
+    UserMouse::moveAway(edit);
     QTRY_COMPARE_WITH_TIMEOUT(onScreen(edit, inside), QColor(Qt::red), 30'000);
     UserMouse::move(edit, beside);
     UserMouse::move(edit, inside); // moves
@@ -126,7 +135,10 @@ void TstCLineEdit::screenFollowsTheMouse()
     UserMouse::moveAway(edit); // leaves
     QTRY_COMPARE_WITH_TIMEOUT(onScreen(edit, inside), QColor(Qt::red), 30'000);
     UserMouse::move(edit, inside);
-    UserMouse::press(edit, inside);
+    QTRY_COMPARE_WITH_TIMEOUT(onScreen(edit, inside), QColor(Qt::green), 30'000);
+    // Without a further movement.
+    QTest::mousePress(window->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      edit->mapTo(window.get(), inside));
     QTRY_COMPARE_WITH_TIMEOUT(onScreen(edit, inside), QColor(Qt::blue), 30'000);
     UserMouse::release(edit, inside);
     QTRY_COMPARE_WITH_TIMEOUT(onScreen(edit, inside), QColor(Qt::green), 30'000);

@@ -5,6 +5,7 @@
 #include "testcase.h"
 #include "testmain.h"
 
+#include <atomic>
 #include <future>
 #include <thread>
 #include <type_traits>
@@ -42,8 +43,15 @@ bool isFree(QMutex& mutex)
     return true;
 }
 
-constexpr auto moment = std::chrono::milliseconds(50);
 constexpr auto limit = std::chrono::seconds(30);
+
+// Waits until the other thread has begun, and then lets it get to what it does next. What it finds
+// there does not depend on how far it gets.
+void letGetOn(const std::atomic<bool>& begun)
+{
+    for (int turns = 0; turns < 1000; turns += begun)
+        std::this_thread::yield();
+}
 
 } // namespace
 
@@ -134,25 +142,41 @@ void TstCLocker::constructionWaitsForTheLock()
 {
     QMutex mutex;
     CLocker locker(mutex);
-    auto other = std::async(std::launch::async, [&mutex] { const CLocker waiting(mutex); });
-    QVERIFY(other.wait_for(moment) == std::future_status::timeout);
+    std::atomic<bool> begun{false};
+    std::atomic<bool> released{false};
+    auto other = std::async(std::launch::async, [&] {
+        begun = true;
+        const CLocker waiting(mutex);
+        return released.load();
+    });
+    letGetOn(begun);
+    released = true;
     locker.Unlock();
     QVERIFY(other.wait_for(limit) == std::future_status::ready);
+    QVERIFY(other.get());
     QVERIFY(isFree(mutex));
 }
 
 void TstCLocker::lockWaitsForTheLock()
 {
     QMutex mutex;
+    CLocker waiting(mutex);
+    waiting.Unlock();
     CLocker locker(mutex);
-    auto other = std::async(std::launch::async, [&mutex] {
-        CLocker waiting(mutex);
-        waiting.Unlock();
+    std::atomic<bool> begun{false};
+    std::atomic<bool> released{false};
+    auto other = std::async(std::launch::async, [&] {
+        begun = true;
         waiting.Lock();
+        const bool wasReleased = released;
+        waiting.Unlock();
+        return wasReleased;
     });
-    QVERIFY(other.wait_for(moment) == std::future_status::timeout);
+    letGetOn(begun);
+    released = true;
     locker.Unlock();
     QVERIFY(other.wait_for(limit) == std::future_status::ready);
+    QVERIFY(other.get());
     QVERIFY(isFree(mutex));
 }
 
