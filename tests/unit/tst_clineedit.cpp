@@ -12,6 +12,19 @@
 
 #include <memory>
 
+// Keeps the movements of the mouse from a widget.
+class MovementsHidden : public QObject
+{
+public:
+    explicit MovementsHidden(QWidget* widget) { widget->installEventFilter(this); }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        return event->type() == QEvent::MouseMove;
+    }
+};
+
 class TstCLineEdit : public FolderTest
 {
     Q_OBJECT
@@ -119,14 +132,18 @@ void TstCLineEdit::screenFollowsTheMouse()
 {
     edit->SetImage(picture(Qt::red), picture(Qt::green), picture(Qt::blue), QPoint(-30, 3));
     edit->setFocus(); // else the press would bring it
+    // Nor does a blinking cursor paint the edit.
+    const int flashTime = QApplication::cursorFlashTime();
+    QApplication::setCursorFlashTime(0);
     const QPoint inside = edit->getRect().center();
     const QPoint beside(50, 10);
     QTRY_COMPARE_WITH_TIMEOUT(onScreen(edit, inside), QColor(Qt::red), 30'000);
-    // Enters without having moved, as when a window above it goes.
-    QCursor::setPos(edit->mapToGlobal(inside));
-    QEnterEvent enter(inside, edit->mapTo(window.get(), inside), edit->mapToGlobal(inside));
-    QApplication::sendEvent(edit, &enter);
-    QTRY_COMPARE_WITH_TIMEOUT(onScreen(edit, inside), QColor(Qt::green), 30'000);
+    {
+        // Enters without a movement, as when a window above it goes.
+        const MovementsHidden from(edit);
+        UserMouse::move(edit, inside);
+        QTRY_COMPARE_WITH_TIMEOUT(onScreen(edit, inside), QColor(Qt::green), 30'000);
+    }
     UserMouse::moveAway(edit);
     QTRY_COMPARE_WITH_TIMEOUT(onScreen(edit, inside), QColor(Qt::red), 30'000);
     UserMouse::move(edit, beside);
@@ -142,6 +159,7 @@ void TstCLineEdit::screenFollowsTheMouse()
     QTRY_COMPARE_WITH_TIMEOUT(onScreen(edit, inside), QColor(Qt::blue), 30'000);
     UserMouse::release(edit, inside);
     QTRY_COMPARE_WITH_TIMEOUT(onScreen(edit, inside), QColor(Qt::green), 30'000);
+    QApplication::setCursorFlashTime(flashTime);
 }
 
 void TstCLineEdit::noPictureLeavesThePlainEdit()

@@ -24,6 +24,7 @@ private slots:
     void rightButtonTogglesNothing();
     void headerStillHandlesThePress();
     void setCheckedTellsNobody();
+    void textsBeginAtTheLeft();
     void boxIsDrawnInItsSectionOnly();
     void boxLiesWhereAClickReachesIt_data();
     void boxLiesWhereAClickReachesIt();
@@ -150,6 +151,12 @@ QRect TstSCheckBoxHeaderView::changedByChecking()
         }
     }
     return changed;
+}
+
+// Where the rows' texts begin, too.
+void TstSCheckBoxHeaderView::textsBeginAtTheLeft()
+{
+    QCOMPARE(header->defaultAlignment(), Qt::AlignLeft | Qt::AlignVCenter);
 }
 
 void TstSCheckBoxHeaderView::boxIsDrawnInItsSectionOnly()
