@@ -5,6 +5,8 @@
 #include "testmain.h"
 #include "usermouse.h"
 
+#include <QPainter>
+
 class TstCBaseImageCtrlTexts : public ImageCtrlTest
 {
     Q_OBJECT
@@ -12,6 +14,8 @@ class TstCBaseImageCtrlTexts : public ImageCtrlTest
 private slots:
     void styleDecidesPlaceAndColourOfTheCaption_data();
     void styleDecidesPlaceAndColourOfTheCaption();
+    void styleDecidesTheSizeOfTheCaption_data();
+    void styleDecidesTheSizeOfTheCaption();
     void tilePaintsADescriptionBelowItsCaption();
     void otherStylesPaintNoDescription();
     void tileTextsAreWhiteWhilePressed();
@@ -58,6 +62,39 @@ void TstCBaseImageCtrlTexts::styleDecidesPlaceAndColourOfTheCaption()
     QVERIFY2(qAbs(bounds.center().x() - centre.x()) <= 2, qPrintable(QTest::toString(bounds)));
     QVERIFY2(qAbs(bounds.center().y() - centre.y()) <= 4, qPrintable(QTest::toString(bounds)));
     QVERIFY(button->rect().contains(button->captionRect()));
+}
+
+void TstCBaseImageCtrlTexts::styleDecidesTheSizeOfTheCaption_data()
+{
+    QTest::addColumn<int>("style");
+    QTest::addColumn<QColor>("colour");
+    QTest::addColumn<int>("pixels");
+    QTest::addColumn<int>("reach");
+    QTest::newRow("1") << 1 << QColor(Qt::black) << 16 << 35;
+    QTest::newRow("3") << 3 << QColor(Qt::white) << 14 << 0;
+    QTest::newRow("4") << 4 << QColor(0, 164, 242) << 12 << 0;
+}
+
+void TstCBaseImageCtrlTexts::styleDecidesTheSizeOfTheCaption()
+{
+    QFETCH(int, style);
+    QFETCH(QColor, colour);
+    QFETCH(int, pixels);
+    QFETCH(int, reach);
+    const QString ground = picture("ground", QColor(200, 60, 60), QSize(200, 100));
+    button->move(0, 0);
+    button->SetBackGround(ground, ground, ground, QString(), "Caption", "", style);
+    const QImage shown = window->grab(button->geometry()).toImage();
+    QImage expected(shown.size(), shown.format());
+    expected.fill(QColor(200, 60, 60));
+    QPainter painter(&expected);
+    QFont font = button->font();
+    font.setPixelSize(pixels);
+    painter.setFont(font);
+    painter.setPen(colour);
+    painter.drawText(expected.rect().adjusted(0, 0, 0, reach), Qt::AlignCenter, "Caption");
+    painter.end();
+    QCOMPARE(shown, expected);
 }
 
 void TstCBaseImageCtrlTexts::tilePaintsADescriptionBelowItsCaption()

@@ -127,7 +127,7 @@ void TstCLineEdit::thirdPictureMakesAButton()
     QCOMPARE(held, QColor(Qt::blue));
 }
 
-// Each of these is what one event has to make the edit paint itself for.
+// What stands on the screen after each event, whoever has made the edit paint itself.
 void TstCLineEdit::screenFollowsTheMouse()
 {
     edit->SetImage(picture(Qt::red), picture(Qt::green), picture(Qt::blue), QPoint(-30, 3));
