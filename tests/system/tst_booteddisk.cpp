@@ -32,7 +32,7 @@ namespace
 {
 
 constexpr int megabytes = 40;
-constexpr int bootLimitMs = 120000;
+constexpr int bootLimitMs = 400000;
 
 void run(const QString& program, const QStringList& arguments)
 {

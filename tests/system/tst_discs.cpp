@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "guesttest.h"
+#include "guesttests.h"
 #include "imagemaker.h"
 #include "testfiles.h"
-#include "testmain.h"
 
 // Discs copied to images and burnt by the program, and images mounted, for a user at the screen.
 class TstDiscs : public GuestTest
@@ -31,7 +31,7 @@ private:
 namespace
 {
 
-constexpr int copySeconds = 300;
+constexpr int copySeconds = 900;
 const QStringList drive("QEMU QEMU DVD-ROM 2.5+ (/dev/sr0)");
 
 } // namespace
@@ -44,7 +44,7 @@ void TstDiscs::initTestCase()
         writeFile(QString("%1/folder %2/file-%3").arg(content).arg(number % 10).arg(number),
                   QByteArray::number(number).repeated(number));
     writeFile(content + QString::fromUtf8("/Gr\u00fc\u00dfe \u5149.txt"), "hello\n");
-    writeRandomFile(content + "/large", 10 * 1024 * 1024, 1);
+    writeRandomFile(content + "/large", 3 * 1024 * 1024, 1);
     makeImage(content, folder.filePath("disc.iso"), {"-J", "-V", "MY  DISC"});
 }
 
@@ -111,11 +111,8 @@ void TstDiscs::discIsCopied()
     USE(program.waitForEntries("dvdlist", drive));
     const QString image = machine.sharedFolder() + "/copy.iso";
     USE(program.enter("lineEdit", QString(VirtualMachine::guestFolder) + "/copy.iso"));
-    QElapsedTimer timer;
-    timer.start();
     USE(program.click("CPage5/start"));
     USE(program.waitForText("Copy CD/DVD successfully!", copySeconds));
-    qInfo() << "Copied in" << timer.elapsed() << "ms";
     USE(program.click("CommDialog/btnok"));
     STEP(leaveCopyPage());
     extractImage(folder.filePath("disc.iso"), folder.filePath("disc"));
@@ -134,7 +131,7 @@ void TstDiscs::buttonEjectsTheMountedDisc()
     STEP(openCopyPage());
     USE(program.waitForEntries("dvdlist", drive));
     USE(program.click("CPage5/eject"));
-    QTRY_VERIFY_WITH_TIMEOUT(machine.isTrayOpen(), 60000);
+    QTRY_VERIFY_WITH_TIMEOUT(machine.isTrayOpen(), 300000);
     QCOMPARE(machine.run("ls -A /media/tester").output, QByteArray());
     STEP(leaveCopyPage());
 }
@@ -176,5 +173,9 @@ echo released)");
     QCOMPARE(machine.run("ls -A /media/tester").output, QByteArray());
 }
 
-KORVEX_TEST_MAIN(TstDiscs)
+std::unique_ptr<QObject> makeDiscsTest()
+{
+    return std::make_unique<TstDiscs>();
+}
+
 #include "tst_discs.moc"

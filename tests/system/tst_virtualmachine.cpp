@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 #include "bootstick.h"
+#include "guest.h"
+#include "guesttests.h"
 #include "testcase.h"
 #include "testfiles.h"
-#include "testmain.h"
-#include "virtualmachine.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -46,17 +46,14 @@ private:
     QString output(const QString& script, VirtualMachine::User user = VirtualMachine::User::Root);
 
     QTemporaryDir folder;
-    VirtualMachine machine;
+    VirtualMachine& machine = Guest::sharedMachine();
 };
 
 #define SUCCEED(condition) QVERIFY2(condition, qPrintable(machine.problem()))
 
 void TstVirtualMachine::initTestCase()
 {
-    QElapsedTimer timer;
-    timer.start();
-    SUCCEED(machine.start());
-    qInfo() << "Started in" << timer.elapsed() << "ms";
+    SUCCEED(machine.isRunning() || machine.start());
 }
 
 QString TstVirtualMachine::stickFile(const QString& name)
@@ -150,5 +147,9 @@ void TstVirtualMachine::theMachineShutsDown()
     QCOMPARE(machine.run("true").exitCode, -1);
 }
 
-KORVEX_TEST_MAIN(TstVirtualMachine)
+std::unique_ptr<QObject> makeVirtualMachineTest()
+{
+    return std::make_unique<TstVirtualMachine>();
+}
+
 #include "tst_virtualmachine.moc"

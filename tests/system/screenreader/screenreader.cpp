@@ -58,6 +58,7 @@ QJsonObject description(const QWidget* widget)
                           {"x", middle.x()},
                           {"y", middle.y()},
                           {"hovered", widget->underMouse()},
+                          {"focused", widget->hasFocus()},
                           {"usable", widget->isEnabled() && (!modal || widget->window() == modal)}};
     if (const auto* const list = qobject_cast<const QComboBox*>(widget)) {
         QJsonArray entries;

@@ -11,13 +11,11 @@
 #include <QJsonDocument>
 #include <QThread>
 
-#include <functional>
-
 namespace
 {
 
 // An emulated program on a busy machine takes its time for everything.
-constexpr int usualSeconds = 180;
+constexpr int usualSeconds = 400;
 // The prompt comes after a disk has been formatted.
 constexpr int promptSeconds = 600;
 constexpr unsigned long pollMs = 50;
@@ -53,16 +51,9 @@ bool GuestProgram::start()
         return fail("the plugin cannot be copied");
     QFile::remove(machine.sharedFolder() + '/' + program + ".json");
     QFile::remove(machine.sharedFolder() + '/' + prompt + ".json");
-    // What is done next is read from a file, as a script of its own takes seconds to start.
-    inputFile = QString("/input-%1").arg(++starts);
-    // Waiting for nothing costs less than starting "sleep".
-    const auto started = machine.run("input=$SHARE" + inputFile + R"(
-: >$input
-[ -p ~/nothing ] || mkfifo ~/nothing
-while [ -e $input ]; do
-  while read -r line; do eval "xdotool $line"; done
-  read -rt 0.1 <>~/nothing
-done <$input >~/input.log 2>&1 &
+    // What is done next is read from a channel, as a script of its own takes seconds to start.
+    const auto started = machine.run(QString("port=%1").arg(VirtualMachine::inputPort) + R"(
+while read -r line && [ "$line" != end ]; do eval "xdotool $line"; done <$port >~/input.log 2>&1 &
 export QT_PLUGIN_PATH=$SHARE/plugins QT_QPA_GENERIC_PLUGINS=screenreader:$SHARE
 setsid $PROGRAM >~/program.log 2>&1 &)");
     running = started.exitCode == 0;
@@ -72,7 +63,7 @@ setsid $PROGRAM >~/program.log 2>&1 &)");
 bool GuestProgram::stop()
 {
     running = false;
-    QFile::remove(machine.sharedFolder() + inputFile);
+    machine.writeInput("end");
     const auto ended = machine.run("kill -9 $(pidof korvex-iso-editor askpass)\n"
                                    "while pidof korvex-iso-editor askpass; do sleep 0.1; done");
     return ended.exitCode == 0 || fail("the program does not end");
@@ -85,10 +76,7 @@ bool GuestProgram::isRunning() const
 
 bool GuestProgram::input(const QString& commands)
 {
-    QFile file(machine.sharedFolder() + inputFile);
-    return (file.open(QIODevice::WriteOnly | QIODevice::Append) &&
-            file.write(commands.toUtf8() + '\n') > 0) ||
-           fail("the input cannot be written");
+    return machine.writeInput(commands.toUtf8()) || fail(machine.problem());
 }
 
 bool GuestProgram::typeText(const QString& text)
@@ -159,12 +147,33 @@ bool GuestProgram::waitForList(const QString& list, bool open)
            fail(list + (open ? " does not open" : " does not close"));
 }
 
+// The screen sends keys to where the focus is when they are pressed, and a click moves it there
+// only when the program comes to it: a busy one does after the keys, and they are lost. So, as a
+// user does, we look for the cursor first and read what has arrived.
+bool GuestProgram::focus(const QString& owner, const QString& field)
+{
+    return clickOn(owner, field) &&
+           (waitUntil([&] { return find(owner, field).value("focused").toBool(); }, usualSeconds) ||
+            fail(field + " of " + owner + " does not get the focus"));
+}
+
+bool GuestProgram::waitForContent(const QString& owner, const QString& field,
+                                  const std::function<bool(const QString&)>& isRight)
+{
+    const auto content = [&] { return find(owner, field).value("text").toString(); };
+    return waitUntil([&] { return isRight(content()); }, usualSeconds) ||
+           fail(field + " of " + owner + " holds " + content());
+}
+
 bool GuestProgram::enter(const QString& field, const QString& content)
 {
-    return clickOn(program, field) && input("key ctrl+a key BackSpace") && typeText(content) &&
-           (waitUntil([&] { return text(field) == content.toUpper() || text(field) == content; },
-                      usualSeconds) ||
-            fail(field + " holds " + text(field)));
+    const auto isEmpty = [](const QString& found) { return found.isEmpty(); };
+    const auto isTyped = [&](const QString& found) {
+        return found == content || found == content.toUpper();
+    };
+    return focus(program, field) && input("key ctrl+a key BackSpace") &&
+           waitForContent(program, field, isEmpty) && typeText(content) &&
+           waitForContent(program, field, isTyped);
 }
 
 bool GuestProgram::chooseNext(const QString& list)
@@ -177,7 +186,10 @@ bool GuestProgram::chooseNext(const QString& list)
 
 bool GuestProgram::enterPassword(const QString& password)
 {
-    return clickOn(prompt, "passwordEdit") && typeText(password) && clickOn(prompt, "btnok");
+    // It shows a sign for each character.
+    const auto isTyped = [&](const QString& found) { return found.size() == password.size(); };
+    return focus(prompt, "passwordEdit") && typeText(password) &&
+           waitForContent(prompt, "passwordEdit", isTyped) && clickOn(prompt, "btnok");
 }
 
 bool GuestProgram::cancelPassword()

@@ -8,6 +8,8 @@
 #include <QJsonObject>
 #include <QStringList>
 
+#include <functional>
+
 // The program on the screen of a virtual machine, used by mouse and keyboard as the user "tester"
 // does. What it shows is told by the plugin in screenreader/. Widgets are called by their object
 // names, with those of the widgets around them before it where the name alone is not unique:
@@ -42,9 +44,9 @@ public:
     bool cancelPassword();
 
     // Waits until a visible widget's text contains this.
-    bool waitForText(const QString& text, int seconds = 180);
-    bool waitForWidget(const QString& widget, int seconds = 180);
-    bool waitForEntries(const QString& list, const QStringList& wanted, int seconds = 180);
+    bool waitForText(const QString& text, int seconds = 400);
+    bool waitForWidget(const QString& widget, int seconds = 400);
+    bool waitForEntries(const QString& list, const QStringList& wanted, int seconds = 400);
     // What it shows now; empty when it is not to be seen.
     QStringList entries(const QString& list);
     QString text(const QString& widget);
@@ -59,13 +61,14 @@ private:
     bool waitForList(const QString& list, bool open);
     bool moveTo(const QString& program, const QString& widget, const QString& afterwards);
     bool clickOn(const QString& program, const QString& widget);
+    bool focus(const QString& program, const QString& field);
+    bool waitForContent(const QString& program, const QString& field,
+                        const std::function<bool(const QString&)>& isRight);
     QJsonArray widgets(const QString& program) const;
     QJsonObject find(const QString& program, const QString& widget) const;
     bool fail(const QString& text);
 
     VirtualMachine& machine;
-    int starts = 0;
     bool running = false;
-    QString inputFile;
     QString trouble;
 };

@@ -8,7 +8,12 @@
 void GuestTest::initTestCase()
 {
     QVERIFY(folder.isValid());
+    if (machine.isRunning())
+        return;
+    QElapsedTimer timer;
+    timer.start();
     SUCCEED(machine.start());
+    qInfo() << "Started in" << timer.elapsed() << "ms";
 }
 
 void GuestTest::init()
@@ -28,10 +33,11 @@ void GuestTest::cleanup()
     TestCase::cleanup();
 }
 
-QString GuestTest::plug(const QString& file)
+QString GuestTest::plug(const QString& file, qint64 bytesPerSecond)
 {
+    static int sticks = 0;
     const QString serial = QString("KX%1").arg(++sticks);
-    const QString node = machine.plugStick(serial, file);
+    const QString node = machine.plugStick(serial, file, bytesPerSecond);
     if (!node.isEmpty())
         plugged.append(serial);
     return node;

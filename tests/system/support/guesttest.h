@@ -3,9 +3,8 @@
 
 #pragma once
 
-#include "guestprogram.h"
+#include "guest.h"
 #include "testcase.h"
-#include "virtualmachine.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -21,8 +20,8 @@
             return;                                                                                \
     } while (false)
 
-// Base of the tests that use the program in a virtual machine. One machine serves all functions of
-// a class, and the program goes on from one to the next as long as they succeed: each leaves it at
+// Base of the tests that use the program in a virtual machine. One machine serves all of
+// them, and the program goes on from one to the next as long as they succeed: each leaves it at
 // the home page. What a function has plugged in is pulled out behind it, and of one that fails a
 // picture of the screen remains.
 class GuestTest : public TestCase
@@ -35,8 +34,8 @@ protected slots:
     void cleanup();
 
 protected:
-    // Plugs a stick with that content in and returns its node.
-    QString plug(const QString& file);
+    // Plugs a stick with that content in and returns its node; see VirtualMachine.
+    QString plug(const QString& file, qint64 bytesPerSecond = 0);
     // Takes out the stick that was plugged in last.
     void pull();
     // What a script that root runs prints, without blanks around it; fails with the script.
@@ -44,10 +43,9 @@ protected:
     void saveScreen(const QString& name);
 
     QTemporaryDir folder;
-    VirtualMachine machine;
-    GuestProgram program{machine};
+    VirtualMachine& machine = Guest::sharedMachine();
+    GuestProgram& program = Guest::sharedProgram();
 
 private:
-    int sticks = 0;
     QStringList plugged;
 };

@@ -21,7 +21,7 @@ class QLocalSocket;
 //     const auto listing = machine.run("lsblk -no TRAN " + node);
 //     QCOMPARE(listing.output, QByteArray("usb\n"));
 //
-// A start takes about 20 seconds, so a test class makes one machine for all of its functions. All
+// A start takes about 20 seconds, so all tests have one machine together, see Guest. All
 // calls wait for their result and return at the latest when a time limit has passed.
 class VirtualMachine
 {
@@ -56,12 +56,17 @@ public:
     // Boots the machine, without sticks and with an empty disc drive, and waits until commands and
     // the screen can be used.
     bool start();
+    bool isRunning() { return emulator.isRunning(); }
     // Ends it as a user would; false when it had to be ended by force.
     bool shutDown();
 
     // Runs a bash script in the user's home folder. Programs of the screen can be started in the
     // background of a script ("$PROGRAM &"), they go on when it has ended.
     Result run(const QString& script, User user = User::Tester, int limitSeconds = 300);
+    // Where the machine reads lines that go to it by writeInput(), until one reader has them. A
+    // script that waits for them costs nothing, unlike one that looks again and again.
+    static constexpr const char* inputPort = "/dev/virtio-ports/korvex.input";
+    bool writeInput(const QByteArray& line);
     // Both sides may read and write here. Exists from start() until the machine is gone. What the
     // machine makes there belongs to whoever runs the test, so "tester" may replace such files
     // but not overwrite them.
@@ -73,7 +78,9 @@ public:
     // Plugs a stick in whose content is the file and returns its node ("/dev/sda") once the
     // machine's udev has dealt with it; empty when it does not appear. The serial number names the
     // stick and must not have blanks. The file belongs to the machine until the stick is unplugged.
-    QString plugStick(const QString& serial, const QString& file);
+    // A slow stick takes as many bytes a second as that, so that a test can act while it is
+    // written.
+    QString plugStick(const QString& serial, const QString& file, qint64 bytesPerSecond = 0);
     // Pulls the stick out, mounted or not, and waits until the machine has noticed.
     bool unplugStick(const QString& serial);
 
@@ -90,6 +97,7 @@ public:
     QString problem() const;
 
 private:
+    bool addStickFile(const QString& drive, const QString& file, qint64 bytesPerSecond);
     bool connectCommandRunner();
     bool readAnswer(QByteArray* line, int milliseconds);
     bool fail(const QString& text);
@@ -97,6 +105,8 @@ private:
     Emulator emulator;
     QLocalServer commandServer;
     std::unique_ptr<QLocalSocket> commandRunner;
+    QLocalServer inputServer;
+    std::unique_ptr<QLocalSocket> inputChannel;
     int lastCommand = 0;
     QString trouble;
 };
