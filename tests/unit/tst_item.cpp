@@ -28,6 +28,7 @@ private slots:
     void nameAndFolderOfAPath();
     void renameReplacesTheLastComponent();
     void renamedBranchTakesEverythingBelowAlong();
+    void copyHasEntriesOfItsOwn();
     void itemPointerTravelsInAVariant();
 };
 
@@ -94,6 +95,29 @@ void TstItem::renamedBranchTakesEverythingBelowAlong()
     QCOMPARE(folder.children.at(0).path, QString("a/new/old"));
     QCOMPARE(folder.children.at(0).children.at(0).path, QString("a/new/old/deep"));
     QCOMPARE(folder.children.at(1).path, QString("a/new/file.txt"));
+}
+
+// Whoever holds a pointer to an entry still holds it after the copy or the original has changed.
+void TstItem::copyHasEntriesOfItsOwn()
+{
+    Item folder = itemAt("a");
+    folder.children.append(itemAt("a/file.txt"));
+    const Item* const entry = &qAsConst(folder).children.first();
+    Item copied(folder);
+    Item assigned = itemAt("other");
+    assigned.children.append(itemAt("other/file.txt"));
+    assigned = folder;
+    Item& self = folder;
+    folder = self;
+    for (Item* const copy : {&copied, &assigned}) {
+        QCOMPARE(copy->path, QString("a"));
+        QCOMPARE(copy->children.size(), 1);
+        QCOMPARE(copy->children.first().path, QString("a/file.txt"));
+        copy->children.first().path = "changed";
+    }
+    QCOMPARE(folder.children.size(), 1);
+    QCOMPARE(&folder.children.first(), entry);
+    QCOMPARE(entry->path, QString("a/file.txt"));
 }
 
 void TstItem::itemPointerTravelsInAVariant()
