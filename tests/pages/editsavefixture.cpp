@@ -20,6 +20,7 @@ namespace
 {
 
 const QString gateName = "unpacking";
+constexpr int limitMs = 60000;
 
 void collectPaths(const Item& folder, QStringList& paths)
 {
@@ -64,6 +65,9 @@ bool EditSaveFixture::loadHalfway(const QStringList& unpacking)
     setArchiver(ExtractPageFixture::usualEntries(),
                 QStringList(archiver.holding(gateName)) + unpacking);
     startLoading();
+    limit.setSingleShot(true);
+    limit.callOnTimeout([this] { letUnpack(); });
+    limit.start(limitMs);
     return waitUntilListed() && archiver.isHeld(gateName);
 }
 

@@ -7,6 +7,7 @@
 #include "heldfolder.h"
 
 #include <QMap>
+#include <QTimer>
 
 #include <functional>
 #include <memory>
@@ -25,7 +26,8 @@ public:
     std::unique_ptr<HeldFolder> addHeld(qint64 bytes) const;
 
     // Loads an image of the usual entries up to its listing: the archiver is held in the middle of
-    // unpacking it, until letUnpack(), and does then what the script says.
+    // unpacking it, until letUnpack(), and does then what the script says. Goes on by itself after
+    // a while, so that a failed test does not hang in a wait of the page.
     bool loadHalfway(const QStringList& unpacking = {});
     void letUnpack() const;
     // Waits until the authoring tool runs for the so manieth time.
@@ -50,4 +52,7 @@ public:
     QStringList allPaths() const;
     // What the archiver extracts from an image, see hashesBelow().
     static QMap<QString, QByteArray> contentOf(const QString& imagePath);
+
+private:
+    QTimer limit;
 };

@@ -45,8 +45,9 @@ public:
     // The message that is open, as the progress dialog is modal as well.
     static QWidget* message();
     // Waits until no tool runs and all that their runners have sent has been received: what has not
-    // come by then does not come any more.
-    static bool waitUntilToolsGone(int limitMs = 60000);
+    // come by then does not come any more. Gives up long before a tool that sleeps for a minute
+    // ends by itself.
+    static bool waitUntilToolsGone(int limitMs = 30000);
     // Waits for the end of the tools without receiving anything: all that their runners have sent
     // is on its way then. There has to be a call of the tool already.
     static bool waitUntilAllIsSent(int limitMs = 60000);

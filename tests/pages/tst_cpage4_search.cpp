@@ -38,6 +38,7 @@ private slots:
     void clickTogglesTheTickOnce();
     void pageTogglesOnlyBesideTheTick();
     void partialTickBecomesATick();
+    void mouseOpensFolders();
 
 private:
     std::unique_ptr<EditContentFixture> fixture;
@@ -227,6 +228,23 @@ void TstCPage4Search::partialTickBecomesATick()
     fixture->table()->item(0, 0)->setCheckState(Qt::PartiallyChecked);
     fixture->clickRow(0, 80);
     QCOMPARE(fixture->ticked(), QStringList("boot"));
+}
+
+void TstCPage4Search::mouseOpensFolders()
+{
+    QVERIFY(fixture->open());
+    QTableWidget* const table = fixture->table();
+    const QPoint row = table->visualItemRect(table->item(fixture->rowOf("boot"), 0)).center();
+    const QPoint point(80, table->viewport()->mapTo(table, row).y());
+    UserMouse::move(table, point);
+    QTest::mouseDClick(fixture->window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                       table->mapTo(&fixture->window, point));
+    QCOMPARE(fixture->shownNames(), QStringList({"grub", "kernel"}));
+    QTreeWidget* const tree = fixture->tree();
+    const QPoint top = tree->visualItemRect(tree->topLevelItem(0)).center();
+    UserMouse::press(tree, tree->viewport()->mapTo(tree, top));
+    UserMouse::release(tree, tree->viewport()->mapTo(tree, top));
+    QCOMPARE(fixture->shownNames(), QStringList({"boot", "docs", "readme.txt", "autorun.inf"}));
 }
 
 KORVEX_TEST_MAIN(TstCPage4Search)

@@ -9,9 +9,14 @@
 #include "testcase.h"
 #include "testfiles.h"
 #include "testmain.h"
+#include "util.h"
 
 #include <QApplication>
 #include <QLineEdit>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
 
 // Unpacking an image in the background on the Edit page, and what is held back meanwhile.
 class TstCPage4Unpack : public TestCase
@@ -34,6 +39,7 @@ private slots:
     void debugLinesTellTheEnd();
     void workFolderIsEmptyBeforeUnpackingBegins();
     void longCopyIsFinishedBeforeUnpackingBegins();
+    void archiverOfAnotherPageIsWaitedFor();
     void failedUnpackingEndsLikeAnother_data();
     void failedUnpackingEndsLikeAnother();
     void nextLoadHelpsAgainstAnUnpackingThatHangs();
@@ -250,6 +256,27 @@ void TstCPage4Unpack::longCopyIsFinishedBeforeUnpackingBegins()
     QVERIFY(fixture->waitUntilListed());
     EditContentFixture::unpack({"other.txt"});
     QCOMPARE(fixture->disagreement(), QString());
+}
+
+// It may be one of another start of the program.
+void TstCPage4Unpack::archiverOfAnotherPageIsWaitedFor()
+{
+    const int lock = ::open(QFile::encodeName(Util::GetTempDir() + "/tmp.lock"),
+                            O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    QVERIFY(lock >= 0 && ::flock(lock, LOCK_EX) == 0);
+    fixture->setImage({"a"});
+    fixture->startLoading();
+    QVERIFY(fixture->waitUntilListed());
+    QVERIFY(PageFixture::waitUntilToolsGone());
+    writeFile(fixture->workFolder() + "/of the other's image", "");
+    // The page looks every few milliseconds whether it may unpack; this timer comes after that.
+    QTest::qWait(20);
+    QCOMPARE(runnerThreadCount(), 0);
+    QCOMPARE(fixture->archiver.calls().size(), 1);
+    ::close(lock);
+    QVERIFY(fixture->waitUntilWorked());
+    QCOMPARE(fixture->archiver.calls().size(), 2);
+    QCOMPARE(entriesOf(fixture->workFolder()), QStringList());
 }
 
 void TstCPage4Unpack::failedUnpackingEndsLikeAnother_data()
