@@ -100,8 +100,8 @@ const QString lastLevel = "tree/2/3/4/5/6/7";
 
 } // namespace
 
-// More than a thousand names through the page into an image of each type and out of it again. Run again
-// under other locales.
+// More than a thousand names through the page into an image of each type and out of it again. Run
+// again under other locales.
 class TstCreateNames : public TestCase
 {
     Q_OBJECT
