@@ -6,8 +6,8 @@
 #include <QHeaderView>
 #include <QPainter>
 #include <QTableWidget>
-#include <QTreeWidget>
 #include <QTest>
+#include <QTreeWidget>
 
 namespace
 {

@@ -23,7 +23,8 @@ void ImagePage::startListing(const QStringList& arguments)
     tree.name = QFileInfo(isoPath).fileName();
     listingRun.stop();
     // The listing ends with its second separator, not with the tool.
-    listingRun.startListing(this, SLOT(OnLineOutput(QString)), nullptr, sevenZipProgram(), arguments);
+    listingRun.startListing(this, SLOT(OnLineOutput(QString)), nullptr, sevenZipProgram(),
+                            arguments);
 }
 
 void ImagePage::OnLineOutput(QString line)
