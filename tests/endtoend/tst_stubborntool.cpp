@@ -96,7 +96,7 @@ void TstStubbornTool::fiftyStopsInARow()
         QVERIFY(session->isUsable());
         QVERIFY(QTest::qWaitFor(everythingIsGone, limitMs));
         QVERIFY2(!QApplication::activeModalWidget(), "a success message after Stop");
-        QTRY_COMPARE_WITH_TIMEOUT(runnerThreadCount(), 0, limitMs);
+        QTRY_VERIFY_WITH_TIMEOUT(areRunnersGone(), limitMs);
         if (run == 2)
             descriptors = descriptorCount();
     }

@@ -102,8 +102,7 @@ bool EditSaveFixture::isShowing(const QString& text) const
 
 bool EditSaveFixture::areToolsGone()
 {
-    return childProcesses().isEmpty() && processesOf("scriptedtool").isEmpty() &&
-           runnerThreadCount() == 0;
+    return childProcesses().isEmpty() && processesOf("scriptedtool").isEmpty() && areRunnersGone();
 }
 
 int EditSaveFixture::browseWhileUnpacking(const QString& imagePath) const

@@ -131,7 +131,7 @@ QWidget* PageFixture::message()
 bool PageFixture::waitUntilToolsGone(int limitMs)
 {
     const auto areGone = [] {
-        return runnerThreadCount() == 0 && childProcesses().isEmpty() &&
+        return areRunnersGone() && childProcesses().isEmpty() &&
                processesOf("scriptedtool").isEmpty();
     };
     const bool gone = QTest::qWaitFor(areGone, limitMs);
@@ -142,9 +142,9 @@ bool PageFixture::waitUntilToolsGone(int limitMs)
 bool PageFixture::waitUntilAllIsSent(int limitMs)
 {
     const QDeadlineTimer limit(limitMs);
-    while (runnerThreadCount() > 0 && !limit.hasExpired())
+    while (!areRunnersGone() && !limit.hasExpired())
         QThread::msleep(1);
-    return runnerThreadCount() == 0;
+    return areRunnersGone();
 }
 
 QString PageFixture::waitForMessage(int limitMs) const

@@ -188,7 +188,7 @@ void TstCBurnDialogUsbTools::nothingIsLeftBehind()
     const int descriptors = descriptorCount();
     const int children = fixture.page->children().size();
     fixture.write();
-    QTRY_COMPARE_WITH_TIMEOUT(runnerThreadCount(), 0, patienceMs);
+    QTRY_VERIFY_WITH_TIMEOUT(areRunnersGone(), patienceMs);
     QCOMPARE(childProcesses(), QList<qint64>());
     QCOMPARE(processesOf("scripteddrive"), QList<qint64>());
     QCOMPARE(descriptorCount(), descriptors);

@@ -123,7 +123,7 @@ void TstCBurnDialogWait::descriptionsThatComeSlowlyKeepTheOrder()
     const WhenCalled release(*drives, describing, [this] {
         const auto end = qScopeGuard([this] { drives->release("tool"); });
         // By then the line of the second disk has come.
-        QTRY_COMPARE_WITH_TIMEOUT(runnerThreadCount(), 0, patienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(areRunnersGone(), patienceMs);
         QCoreApplication::processEvents();
         QCOMPARE(disks(), QStringList());
     });

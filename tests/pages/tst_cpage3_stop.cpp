@@ -253,7 +253,7 @@ void TstCPage3Stop::pageMayGoWhileAStubbornToolIsBeingStopped()
     fixture->pressStop();
     delete fixture->page;
     QVERIFY(QTest::qWaitFor([] { return CreatePageFixture::isToolGone(); }, patienceMs));
-    QTRY_COMPARE_WITH_TIMEOUT(runnerThreadCount(), 0, patienceMs);
+    QTRY_VERIFY_WITH_TIMEOUT(areRunnersGone(), patienceMs);
 }
 
 KORVEX_TEST_MAIN(TstCPage3Stop)

@@ -11,6 +11,9 @@
 #include <QPointer>
 #include <QThread>
 
+#include <future>
+#include <thread>
+
 namespace
 {
 
@@ -57,13 +60,14 @@ private slots:
     void nextRunDoesNotHearTheLastOne();
     void runnersFreeThemselves();
     void destructorEndsTheToolAndWaits();
+    void runnerIsNotGoneBeforeItHasItsName();
 
 private:
     void start(const QStringList& script);
     static bool hasEverythingGone()
     {
         return childProcesses().isEmpty() && processesOf("scriptedtool").isEmpty() &&
-               runnerThreadCount() == 0;
+               areRunnersGone();
     }
     // What the runners have sent has been received by then.
     static bool isEverythingGone()
@@ -253,6 +257,18 @@ void TstToolRun::destructorEndsTheToolAndWaits()
     QVERIFY(!speaker);
     QVERIFY(isEverythingGone());
     QCOMPARE(ends, 0);
+}
+
+// A wait for the end of all runners that begins in that moment would be over at once.
+void TstToolRun::runnerIsNotGoneBeforeItHasItsName()
+{
+    std::promise<void> look;
+    std::thread newborn([end = look.get_future()] { end.wait(); });
+    const bool isGone = areRunnersGone();
+    look.set_value();
+    newborn.join();
+    QVERIFY(!isGone);
+    QTRY_VERIFY_WITH_TIMEOUT(areRunnersGone(), 30000);
 }
 
 KORVEX_TEST_MAIN(TstToolRun)

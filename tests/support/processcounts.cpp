@@ -11,6 +11,18 @@
 namespace
 {
 
+// The threads that go by the name of the process: the first one, and that of the thread sanitizer.
+#ifdef __has_feature
+#if __has_feature(thread_sanitizer)
+#define KORVEX_THREAD_SANITIZER
+#endif
+#endif
+#if defined(KORVEX_THREAD_SANITIZER) || defined(__SANITIZE_THREAD__)
+constexpr int ownThreads = 2;
+#else
+constexpr int ownThreads = 1;
+#endif
+
 QByteArray contentOf(const QString& path)
 {
     QFile file(path);
@@ -39,12 +51,12 @@ QStringList processNumbers()
     return QDir("/proc").entryList({"[0-9]*"}, QDir::Dirs);
 }
 
-QStringList runnerThreads()
+// The folders of this process's threads that go by the name.
+QStringList threadsNamed(const QByteArray& name)
 {
-    // The system keeps 15 characters of the class's name.
-    const QByteArray name = QByteArray("CRunCommandThread").left(15);
     QStringList found;
-    const QStringList threads = QDir("/proc/self/task").entryList(QDir::Dirs);
+    const QStringList threads =
+        QDir("/proc/self/task").entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     for (const QString& thread : threads) {
         const QString folder = "/proc/self/task/" + thread;
         if (contentOf(folder + "/comm").trimmed() == name)
@@ -53,11 +65,25 @@ QStringList runnerThreads()
     return found;
 }
 
+QStringList runnerThreads()
+{
+    // The system keeps 15 characters of the class's name.
+    return threadsNamed(QByteArray("CRunCommandThread").left(15));
+}
+
 } // namespace
 
 int runnerThreadCount()
 {
     return runnerThreads().size();
+}
+
+// A thread goes by the name of the one that made it until it has one of its own.
+bool areRunnersGone()
+{
+    const QString self = QString::number(QCoreApplication::applicationPid());
+    const QByteArray ownName = contentOf("/proc/self/task/" + self + "/comm").trimmed();
+    return threadsNamed(ownName).size() <= ownThreads && runnerThreadCount() == 0;
 }
 
 qint64 runnerThreadWaits()

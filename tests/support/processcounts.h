@@ -9,8 +9,12 @@
 // What a test process and its children hold at the moment, read from the system's process table.
 
 // The threads of runners; each has one while its tool runs or is being stopped. A thread that has
-// been waited for can still be counted for a moment: it says from within that it has ended.
+// been waited for can still be counted for a moment: it says from within that it has ended. One that
+// has only just been started is not counted before it has its name.
 int runnerThreadCount();
+// There is none, nor any that was started and has no name yet: for a wait that begins right after a
+// start. A test that calls it gives its own threads a name.
+bool areRunnersGone();
 // How often they have had to wait for something since they began. A runner looks at a silent tool
 // once for each ToolLimits::stepMs.
 qint64 runnerThreadWaits();

@@ -254,13 +254,13 @@ void TstCRunCommandThread::fiftyRunsLeaveNothingBehind()
     Run first;
     QVERIFY(first.finish());
     QVERIFY(first.waitForWorker());
-    QTRY_COMPARE_WITH_TIMEOUT(runnerThreadCount(), 0, limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(areRunnersGone(), limitMs);
     const int descriptors = descriptorCount();
     for (int i = 0; i < 50; ++i) {
         Run run;
         QVERIFY(run.finish());
     }
-    QTRY_COMPARE_WITH_TIMEOUT(runnerThreadCount(), 0, limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(areRunnersGone(), limitMs);
     QVERIFY(descriptorCount() <= descriptors);
 }
 
