@@ -35,6 +35,21 @@ if(KORVEX_GOLD AND NOT KORVEX_SANITIZE)
   set(quick_linker -fuse-ld=gold)
 endif()
 
+# Tells the thread sanitizer what it cannot see of Qt; for executables that it watches.
+set(qt_order ${CMAKE_SOURCE_DIR}/tests/threads/qtorder.cpp)
+add_library(korvex_qt_order OBJECT EXCLUDE_FROM_ALL ${qt_order})
+set_target_properties(korvex_qt_order PROPERTIES AUTOMOC OFF)
+target_compile_options(korvex_qt_order PRIVATE -fsanitize=thread -g)
+target_link_libraries(korvex_qt_order PRIVATE Qt5::Core korvex_settings)
+# Each function that it wraps has its name in the head of the wrapper.
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${qt_order})
+file(READ ${qt_order} wrappers)
+string(REGEX MATCHALL "\nKORVEX_WRAP[^_]+_Z[A-Za-z0-9_]+" wrappers "${wrappers}")
+foreach(wrapper ${wrappers})
+  string(REGEX MATCH "_Z[A-Za-z0-9_]+" symbol ${wrapper})
+  target_link_options(korvex_qt_order INTERFACE -Wl,--wrap=${symbol})
+endforeach()
+
 # Most tests are one file that includes what moc makes of it. Calling moc for it takes no time, where
 # the usual scan of a target with the file that it compiles takes a third of the whole build.
 function(korvex_moc_alone target source)
@@ -62,6 +77,9 @@ function(korvex_test name)
   korvex_moc_alone(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE korvex_test_support ${ARG_LINKS} korvex_settings)
   target_link_options(${name} PRIVATE ${quick_linker})
+  if(KORVEX_SANITIZE STREQUAL "thread")
+    target_link_libraries(${name} PRIVATE korvex_qt_order)
+  endif()
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${folder})
   target_compile_definitions(${name} PRIVATE
     KORVEX_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data"
