@@ -71,6 +71,12 @@ QStringList runnerThreads()
     return threadsNamed(QByteArray("CRunCommandThread").left(15));
 }
 
+// What a sanitizer starts to learn the names of functions, and keeps.
+bool isOfSanitizer(const QString& pid)
+{
+    return QFile::symLinkTarget("/proc/" + pid + "/exe").contains("/llvm-symbolizer");
+}
+
 } // namespace
 
 int runnerThreadCount()
@@ -112,7 +118,7 @@ QList<qint64> childProcesses()
     QList<qint64> children;
     const QByteArray self = QByteArray::number(QCoreApplication::applicationPid());
     for (const QString& pid : processNumbers()) {
-        if (statFields(pid).value(1) == self)
+        if (statFields(pid).value(1) == self && !isOfSanitizer(pid))
             children.append(pid.toLongLong());
     }
     return children;
