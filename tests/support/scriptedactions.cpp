@@ -38,15 +38,17 @@ void sleepFor(long milliseconds)
     std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
 }
 
-// Goes on as well when the folder has gone, which is how a test ends. Gives up after a while, as
-// the test may have crashed and left its folder behind.
+// Goes on as well when the folder has gone, which is how a test ends, and when whoever has started
+// the tool has: a test that has crashed leaves its folder behind, and nobody waits for the tool of
+// a tool that was killed. Gives up after a while in any case.
 void hold(const std::string& gate)
 {
     const std::filesystem::path file(gate);
     const auto end = std::chrono::steady_clock::now() + std::chrono::minutes(5);
+    const pid_t parent = ::getppid();
     std::ofstream(gate + ".reached").close();
     while (!std::filesystem::exists(file) && std::filesystem::exists(file.parent_path()) &&
-           std::chrono::steady_clock::now() < end)
+           ::getppid() == parent && std::chrono::steady_clock::now() < end)
         sleepFor(2);
 }
 

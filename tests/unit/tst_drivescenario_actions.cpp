@@ -2,10 +2,15 @@
 // SPDX-License-Identifier: MIT
 
 #include "drivescenario.h"
+#include "processcounts.h"
 #include "testcase.h"
 #include "testfiles.h"
 #include "testmain.h"
+#include "toolgates.h"
 #include "toolresult.h"
+
+#include <QFileInfo>
+#include <QThread>
 
 #include <memory>
 
@@ -23,6 +28,8 @@ private slots:
     void hangingToolCanBeKilledAndLeavesNoEnd();
     void heldCallGoesOnWhenReleased();
     void heldCallEndsWithItsScenario();
+    void heldCallEndsWithWhoeverStartedIt();
+    void gatesGoWhileToolsComeToThem();
     void crashIsACrash();
     void foldersAndFilesAreMadeAndCopied();
     void realToolGetsTheArguments();
@@ -108,6 +115,41 @@ void TstDriveScenarioActions::heldCallEndsWithItsScenario()
     QVERIFY(process.waitForReadyRead());
     scenario.reset();
     QVERIFY(process.waitForFinished());
+}
+
+// As the tool of a test that has crashed has to.
+void TstDriveScenarioActions::heldCallEndsWithWhoeverStartedIt()
+{
+    scenario->on("hdiutil", {}, {scenario->holding("gate")});
+    QProcess shell;
+    shell.start("/bin/sh", {"-c", "hdiutil & wait"});
+    QVERIFY(scenario->isHeld("gate"));
+    QCOMPARE(processesOf("scripteddrive").size(), 1);
+    shell.kill();
+    QVERIFY(shell.waitForFinished());
+    QTRY_VERIFY_WITH_TIMEOUT(processesOf("scripteddrive").isEmpty(), 60000);
+}
+
+// Tools that come to a gate while the folder is being emptied would wait in one that stays.
+void TstDriveScenarioActions::gatesGoWhileToolsComeToThem()
+{
+    auto gates = std::make_unique<ToolGates>();
+    const QString path = gates->hold("gate").section(' ', 1);
+    const QString folder = QFileInfo(path).path();
+    for (int i = 0; i < 2000; ++i)
+        writeFile(QString("%1-%2.reached").arg(path).arg(i), {});
+    const QString first = path + "-0.reached";
+    const std::unique_ptr<QThread> tools(QThread::create([&] {
+        while (QFile::exists(first))
+            QThread::yieldCurrentThread();
+        for (int i = 0; i < 2000; ++i)
+            QFile(QString("%1+%2.reached").arg(path).arg(i)).open(QIODevice::WriteOnly);
+    }));
+    tools->start();
+    gates.reset();
+    const bool isGone = !QFileInfo::exists(folder);
+    tools->wait();
+    QVERIFY(isGone);
 }
 
 void TstDriveScenarioActions::crashIsACrash()
