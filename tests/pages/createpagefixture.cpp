@@ -23,6 +23,11 @@ CreatePageFixture::CreatePageFixture()
 {
 }
 
+CreatePageFixture::~CreatePageFixture()
+{
+    delete page;
+}
+
 QString CreatePageFixture::toolPath()
 {
     return QCoreApplication::applicationDirPath() + "/cdrtools/mkisofs";

@@ -16,6 +16,9 @@ class CreatePageFixture : public PageFixture
 {
 public:
     CreatePageFixture();
+    // The page goes before the gates that hold its tool: a run that came to its end in between
+    // would be told in a dialog that nobody closes.
+    ~CreatePageFixture() override;
 
     static QString toolPath();
     // Where the page copies to, without a trailing "/".

@@ -35,6 +35,11 @@ EditPageFixture::EditPageFixture()
     page->move(3, 107);
 }
 
+EditPageFixture::~EditPageFixture()
+{
+    delete page;
+}
+
 QString EditPageFixture::workFolder()
 {
     return Util::GetTempDir() + "/tmp";

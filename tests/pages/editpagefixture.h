@@ -18,6 +18,9 @@ class EditPageFixture : public PageFixture
 {
 public:
     EditPageFixture();
+    // The page goes before the gates that hold its tools: a run that came to its end in between
+    // would be told in a dialog that nobody closes.
+    ~EditPageFixture() override;
 
     // Where the page unpacks to, without a trailing "/".
     static QString workFolder();

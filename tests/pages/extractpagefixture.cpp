@@ -38,6 +38,11 @@ ExtractPageFixture::ExtractPageFixture()
 {
 }
 
+ExtractPageFixture::~ExtractPageFixture()
+{
+    delete page;
+}
+
 QString ExtractPageFixture::fileLine(const QString& path, qint64 bytes)
 {
     return entryLine(".....", QString::number(bytes), path);

@@ -38,6 +38,7 @@ private slots:
     void stopWithoutAnExtractionIsHarmless();
     void pageMayGoWhileTheArchiverRuns();
     void secondExtractionEndsTheFirst();
+    void archiverIsHeldUntilThePageHasGone();
 
 private:
     void startEndlessExtraction();
@@ -72,10 +73,10 @@ void TstCPage2Progress::cleanup()
 
 void TstCPage2Progress::startEndlessExtraction()
 {
-    fixture->tool.setScript({"sleep 60000"});
+    fixture->tool.setScript({fixture->tool.holding("endless")});
     fixture->tick({"readme.txt"});
     fixture->startExtractingTo(outputDir);
-    QVERIFY(QTest::qWaitFor([this] { return fixture->tool.calls().size() == 2; }, 60000));
+    QVERIFY(fixture->tool.isHeld("endless"));
 }
 
 void TstCPage2Progress::extractWithoutReceiving()
@@ -276,6 +277,21 @@ void TstCPage2Progress::secondExtractionEndsTheFirst()
     QVERIFY(fixture->extractTo(outputDir));
     QVERIFY(PageFixture::waitUntilToolsGone());
     QCOMPARE(fixture->tool.calls().size(), 3);
+}
+
+// Also when the test ends: the success of an extraction that goes on by itself would be told while
+// nobody is there to close the message.
+void TstCPage2Progress::archiverIsHeldUntilThePageHasGone()
+{
+    startEndlessExtraction();
+    const QString gate = fixture->tool.holding("endless").section(' ', 1);
+    bool isHeld = false;
+    connect(fixture->page, &QObject::destroyed, this,
+            [&] { isHeld = QFileInfo::exists(gate + ".reached"); });
+    const ModalDriver noMessage;
+    fixture.reset();
+    QVERIFY(isHeld);
+    QVERIFY(PageFixture::waitUntilToolsGone());
 }
 
 KORVEX_TEST_MAIN(TstCPage2Progress)

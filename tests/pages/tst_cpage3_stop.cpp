@@ -42,6 +42,7 @@ private slots:
     void backEndsTheToolAtOnceAlthoughACopyGoesOn();
     void pageMayGoWhileTheToolRuns();
     void pageMayGoWhileAStubbornToolIsBeingStopped();
+    void toolIsHeldUntilThePageHasGone();
 
 private:
     void startEndlessCreation();
@@ -254,6 +255,23 @@ void TstCPage3Stop::pageMayGoWhileAStubbornToolIsBeingStopped()
     delete fixture->page;
     QVERIFY(QTest::qWaitFor([] { return CreatePageFixture::isToolGone(); }, patienceMs));
     QTRY_VERIFY_WITH_TIMEOUT(areRunnersGone(), patienceMs);
+}
+
+// Also when the test ends: the success of a run that goes on by itself would be told while nobody
+// is there to close the message.
+void TstCPage3Stop::toolIsHeldUntilThePageHasGone()
+{
+    fixture->tool.setScript({fixture->tool.holding("held")});
+    fixture->startCreating(image);
+    QVERIFY(fixture->tool.isHeld("held"));
+    const QString gate = fixture->tool.holding("held").section(' ', 1);
+    bool isHeld = false;
+    connect(fixture->page, &QObject::destroyed, this,
+            [&] { isHeld = QFileInfo::exists(gate + ".reached"); });
+    const ModalDriver noMessage;
+    fixture.reset();
+    QVERIFY(isHeld);
+    QVERIFY(PageFixture::waitUntilToolsGone());
 }
 
 KORVEX_TEST_MAIN(TstCPage3Stop)

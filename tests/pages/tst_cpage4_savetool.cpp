@@ -44,6 +44,7 @@ private slots:
     void pageClosedInTheCopyWaitGoesWhenTheCopyHasEnded();
     void pageClosedWhileWritingGoes();
     void pageDeletedWhileWritingGoes();
+    void toolIsHeldUntilThePageHasGone();
 
 private:
     void load(const QStringList& unpacking = {});
@@ -271,6 +272,24 @@ void TstCPage4SaveTool::pageDeletedWhileWritingGoes()
     QVERIFY(fixture->waitForCall(1));
     delete fixture->page;
     checkGone();
+}
+
+// Also when the test ends: the success of a save that goes on by itself would be told while nobody
+// is there to close the message.
+void TstCPage4SaveTool::toolIsHeldUntilThePageHasGone()
+{
+    load();
+    fixture->author.setScript({fixture->author.holding("held")});
+    fixture->startSaving(image);
+    QVERIFY(fixture->author.isHeld("held"));
+    const QString gate = fixture->author.holding("held").section(' ', 1);
+    bool isHeld = false;
+    connect(fixture->page, &QObject::destroyed, this,
+            [&] { isHeld = QFileInfo::exists(gate + ".reached"); });
+    const ModalDriver noMessage;
+    fixture.reset();
+    QVERIFY(isHeld);
+    QVERIFY(PageFixture::waitUntilToolsGone());
 }
 
 KORVEX_TEST_MAIN(TstCPage4SaveTool)
