@@ -92,7 +92,7 @@ QString ExtractSession::waitForSuccess(int limitMs)
         text = dialog->findChild<QLabel*>("label")->text();
         clickIn(dialog, "btnok");
     });
-    poll.start(20);
+    poll.start(2);
     const auto isOver = [this, &text] { return !text.isNull() && isUsable(); };
     return QTest::qWaitFor(isOver, limitMs) ? text : QString();
 }

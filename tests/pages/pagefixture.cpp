@@ -167,7 +167,7 @@ QString PageFixture::answerMessage(const std::function<void()>& first, const QSt
         UserMouse::moveAway(dialog);
         UserMouse::click(dialog->findChild<QWidget*>(button));
     });
-    poll.start(10);
+    poll.start(2);
     first();
     const auto isOver = [&text] { return !text.isNull() && !QApplication::activeModalWidget(); };
     return QTest::qWaitFor(isOver, limitMs) ? text : QString();

@@ -18,7 +18,7 @@ public:
     DialogAnswerer()
     {
         connect(&timer, SIGNAL(timeout()), this, SLOT(look()));
-        timer.start(20);
+        timer.start(5);
     }
 
 private slots:

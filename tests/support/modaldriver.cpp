@@ -14,11 +14,18 @@
 #include <QLineEdit>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 namespace
 {
 
-constexpr int interval = 20; // ms
+constexpr int interval = 2; // ms
+
+// Shown so far that it can be clicked.
+bool isOpen(const QWidget* dialog)
+{
+    return dialog->isVisible() && dialog->windowHandle() && dialog->windowHandle()->isExposed();
+}
 
 QString textOf(const QWidget* dialog)
 {
@@ -127,7 +134,7 @@ void ModalDriver::poll()
     // for it.
     QTimer::singleShot(interval, this, SLOT(poll()));
     QWidget* dialog = QApplication::activeModalWidget();
-    if (dialog && dialog->isVisible() && dialog != answered && !isPassedOver(dialog))
+    if (dialog && isOpen(dialog) && dialog != answered && !isPassedOver(dialog))
         poll(dialog);
     else if ((answered || !answers.isEmpty()) && (waited += interval) > timeout)
         fail(answered ? QString("the dialog that says \"%1\" stayed open").arg(seen.last())

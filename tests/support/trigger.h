@@ -21,7 +21,7 @@ public:
             fired = true;
             action();
         });
-        timer.start(5);
+        timer.start(1);
     }
 
     bool hasFired() const { return fired; }
