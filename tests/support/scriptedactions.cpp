@@ -11,6 +11,7 @@
 #include <fstream>
 #include <iterator>
 #include <sstream>
+#include <sys/ioctl.h>
 #include <thread>
 #include <unistd.h>
 
@@ -52,6 +53,17 @@ void hold(const std::string& gate)
         sleepFor(2);
 }
 
+// Until what has been written has been read, so that what follows arrives apart from it. Not for
+// long, as the reader may be one that does not read on.
+void awaitReader()
+{
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(1);
+    int unread = 0;
+    while (::ioctl(1, FIONREAD, &unread) == 0 && unread > 0 &&
+           std::chrono::steady_clock::now() < end)
+        std::this_thread::sleep_for(std::chrono::microseconds(20));
+}
+
 void replayFile(std::size_t block, const std::string& path)
 {
     std::ifstream file(path, std::ios::binary);
@@ -60,7 +72,7 @@ void replayFile(std::size_t block, const std::string& path)
         const std::string part = content.substr(at, block);
         writeText(1, part);
         if (at + block < content.size())
-            sleepFor(2);
+            awaitReader();
     }
 }
 

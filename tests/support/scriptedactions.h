@@ -10,7 +10,8 @@
 //
 //   out TEXT       writes to standard output; \n \r \b \\ and \xHH stand for bytes
 //   err TEXT       the same to standard error
-//   file N PATH    writes a file to standard output in blocks of N bytes
+//   file N PATH    writes a file to standard output in blocks of N bytes, each when the one before
+//                  has been read
 //   lines N TEXT   writes N lines, each TEXT and its number
 //   flood N        writes N MB to each channel, as fast as it can
 //   hold PATH      makes PATH.reached and waits for the file PATH; see ToolGates
