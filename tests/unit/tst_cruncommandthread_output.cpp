@@ -351,7 +351,7 @@ void TstCRunCommandThreadOutput::hundredThousandLinesInOrder()
 
 void TstCRunCommandThreadOutput::floodLeavesTheWindowItsTurnsAndTakesNoMemory()
 {
-    constexpr int megabytes = 20;
+    constexpr int megabytes = 8;
     const OtherLimit patience(toolLimits().deliveryMs, OtherLimit::forGood);
     ScriptedCalls(toolPath()).setScript({QString("flood %1").arg(megabytes)});
     CRunCommandThread runner(nullptr);
