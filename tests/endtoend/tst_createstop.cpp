@@ -4,6 +4,7 @@
 #include "cprogressdialog.h"
 #include "createpagefixture.h"
 #include "imagemaker.h"
+#include "otherlimit.h"
 #include "processcounts.h"
 #include "testcase.h"
 #include "testfiles.h"
@@ -46,6 +47,8 @@ private:
 
     std::unique_ptr<CreatePageFixture> fixture;
     QString image;
+    // A stop is noticed at once.
+    const OtherLimit quickSteps{toolLimits().stepMs, 10};
 };
 
 void TstCreateStop::init()

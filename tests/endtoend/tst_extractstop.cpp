@@ -3,6 +3,7 @@
 
 #include "extractsession.h"
 #include "imagemaker.h"
+#include "otherlimit.h"
 #include "processcounts.h"
 #include "testcase.h"
 #include "testmain.h"
@@ -46,6 +47,8 @@ private:
     QString output;
     QStringList names;
     std::unique_ptr<ExtractSession> session;
+    // A stop is noticed at once.
+    const OtherLimit quickSteps{toolLimits().stepMs, 10};
 };
 
 void TstExtractStop::initTestCase()

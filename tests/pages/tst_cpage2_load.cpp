@@ -4,6 +4,7 @@
 #include "cimagebutton.h"
 #include "extractpagefixture.h"
 #include "modaldriver.h"
+#include "otherlimit.h"
 #include "processcounts.h"
 #include "startup.h"
 #include "testcase.h"
@@ -45,6 +46,9 @@ private:
     bool isBusy() const;
 
     std::unique_ptr<ExtractPageFixture> fixture;
+    // A stop is noticed at once, and a tool that does not heed it is not waited for.
+    const OtherLimit quickSteps{toolLimits().stepMs, 10};
+    const OtherLimit littlePatience{toolLimits().politeStopMs, 50};
 };
 
 void TstCPage2Load::initTestCase()

@@ -4,6 +4,7 @@
 #include "cprogressdialog.h"
 #include "createpagefixture.h"
 #include "modaldriver.h"
+#include "otherlimit.h"
 #include "processcounts.h"
 #include "startup.h"
 #include "testcase.h"
@@ -49,6 +50,9 @@ private:
 
     std::unique_ptr<CreatePageFixture> fixture;
     QString image;
+    // A stop is noticed at once, and a tool that does not heed it is not waited for.
+    const OtherLimit quickSteps{toolLimits().stepMs, 10};
+    const OtherLimit littlePatience{toolLimits().politeStopMs, 50};
 };
 
 void TstCPage3Stop::initTestCase()

@@ -5,6 +5,7 @@
 #include "createpagefixture.h"
 #include "heldfolder.h"
 #include "modaldriver.h"
+#include "otherlimit.h"
 #include "startup.h"
 #include "testcase.h"
 #include "testfiles.h"
@@ -46,6 +47,9 @@ private:
     std::unique_ptr<CreatePageFixture> fixture;
     std::unique_ptr<HeldFolder> held;
     QString image;
+    // A stop is noticed at once, and a tool that does not heed it is not waited for.
+    const OtherLimit quickSteps{toolLimits().stepMs, 10};
+    const OtherLimit littlePatience{toolLimits().politeStopMs, 50};
 };
 
 void TstCPage3StopWait::initTestCase()

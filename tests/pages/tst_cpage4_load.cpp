@@ -6,6 +6,7 @@
 #include "editcontentfixture.h"
 #include "extractpagefixture.h"
 #include "modaldriver.h"
+#include "otherlimit.h"
 #include "processcounts.h"
 #include "startup.h"
 #include "testcase.h"
@@ -45,6 +46,9 @@ private:
     bool areButtonsEnabled(bool enabled) const;
 
     std::unique_ptr<EditContentFixture> fixture;
+    // A stop is noticed at once, and a tool that does not heed it is not waited for.
+    const OtherLimit quickSteps{toolLimits().stepMs, 10};
+    const OtherLimit littlePatience{toolLimits().politeStopMs, 50};
 };
 
 void TstCPage4Load::initTestCase()

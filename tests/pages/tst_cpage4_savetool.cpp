@@ -5,6 +5,7 @@
 #include "editsavefixture.h"
 #include "extractpagefixture.h"
 #include "modaldriver.h"
+#include "otherlimit.h"
 #include "startup.h"
 #include "testcase.h"
 #include "testfiles.h"
@@ -53,6 +54,9 @@ private:
 
     std::unique_ptr<EditSaveFixture> fixture;
     QString image;
+    // A stop is noticed at once, and a tool that does not heed it is not waited for.
+    const OtherLimit quickSteps{toolLimits().stepMs, 10};
+    const OtherLimit littlePatience{toolLimits().politeStopMs, 50};
 };
 
 void TstCPage4SaveTool::initTestCase()

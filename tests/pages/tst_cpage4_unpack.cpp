@@ -4,6 +4,7 @@
 #include "editcontentfixture.h"
 #include "heldfolder.h"
 #include "modaldriver.h"
+#include "otherlimit.h"
 #include "processcounts.h"
 #include "startup.h"
 #include "testcase.h"
@@ -51,6 +52,9 @@ private:
     QStringList progressLines() const;
 
     std::unique_ptr<EditContentFixture> fixture;
+    // A stop is noticed at once, and a tool that does not heed it is not waited for.
+    const OtherLimit quickSteps{toolLimits().stepMs, 10};
+    const OtherLimit littlePatience{toolLimits().politeStopMs, 50};
 };
 
 void TstCPage4Unpack::initTestCase()

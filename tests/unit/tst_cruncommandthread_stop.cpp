@@ -10,6 +10,18 @@
 
 #include <QSemaphore>
 
+namespace
+{
+
+// A stop is noticed at once, and a tool that does not heed it is not waited for.
+struct QuickStops
+{
+    const OtherLimit quickSteps{toolLimits().stepMs, 10};
+    const OtherLimit littlePatience{toolLimits().politeStopMs, 50};
+};
+
+} // namespace
+
 // How a run is stopped, at any moment and whatever the tool does.
 class TstCRunCommandThreadStop : public TestCase
 {
@@ -36,6 +48,7 @@ private slots:
 
 void TstCRunCommandThreadStop::terminateEndsTheRunWithoutSigfinished()
 {
+    const OtherLimit quickSteps(toolLimits().stepMs, 10);
     ScriptedCalls(toolPath()).setScript({"out started\\n", "sleep 60000"});
     Run run;
     run.runner.start(QThread::InheritPriority);
@@ -50,6 +63,7 @@ void TstCRunCommandThreadStop::terminateEndsTheRunWithoutSigfinished()
 
 void TstCRunCommandThreadStop::terminateAtAnyMoment()
 {
+    const OtherLimit quickSteps(toolLimits().stepMs, 10);
     ScriptedCalls(toolPath()).setScript({"lines 2000 line", "sleep 20", "lines 2000 line"});
     for (int delay = 0; delay < 40; ++delay) {
         Run run;
@@ -65,6 +79,7 @@ void TstCRunCommandThreadStop::terminateAtAnyMoment()
 
 void TstCRunCommandThreadStop::terminateWithAToolThatIgnoresIt()
 {
+    const QuickStops quick;
     ScriptedCalls(toolPath()).setScript({"ignore-term", "out ready\\n", "sleep 60000"});
     Run run;
     run.runner.start(QThread::InheritPriority);
@@ -76,6 +91,7 @@ void TstCRunCommandThreadStop::terminateWithAToolThatIgnoresIt()
 
 void TstCRunCommandThreadStop::terminateAsksBeforeItKills()
 {
+    const OtherLimit quickSteps(toolLimits().stepMs, 10);
     const OtherLimit patience(toolLimits().politeStopMs, OtherLimit::forGood);
     const ScriptedCalls tool(toolPath());
     tool.setScript({"heed-term", "out ready\\n", "await-term", tool.holding("tidying up"),
@@ -95,6 +111,7 @@ void TstCRunCommandThreadStop::terminateAsksBeforeItKills()
 
 void TstCRunCommandThreadStop::terminateTakesTheToolsChildrenAlong()
 {
+    const QuickStops quick;
     ScriptedCalls(toolPath())
         .setScript({"child 600000", "ignore-term", "out ready\\n", "sleep 600000"});
     Run run;
@@ -114,6 +131,7 @@ void TstCRunCommandThreadStop::terminateEndsAFlood_data()
 
 void TstCRunCommandThreadStop::terminateEndsAFlood()
 {
+    const QuickStops quick;
     QFETCH(QString, manner);
     ScriptedCalls(toolPath()).setScript({manner, "flood 100000000"});
     Run run;
@@ -145,6 +163,7 @@ void TstCRunCommandThreadStop::terminateAfterTheEndDoesNothing()
 
 void TstCRunCommandThreadStop::terminatedRunnerCanBeDeletedAtOnce()
 {
+    const QuickStops quick;
     ScriptedCalls(toolPath()).setScript({"ignore-term", "sleep 60000"});
     for (int delay = 0; delay < 5; ++delay) {
         const auto runner = std::make_unique<CRunCommandThread>(nullptr);
@@ -170,6 +189,7 @@ void TstCRunCommandThreadStop::killedProcessEndsTheRun()
 
 void TstCRunCommandThreadStop::startAfterTerminateFollowsTheOlderRun()
 {
+    const QuickStops quick;
     const ScriptedCalls tool(toolPath());
     tool.setScript({"ignore-term", "out older\\n", "sleep 600000"});
     Run run;
@@ -189,6 +209,7 @@ void TstCRunCommandThreadStop::startAfterTerminateFollowsTheOlderRun()
 
 void TstCRunCommandThreadStop::secondTerminateTakesTheStartBack()
 {
+    const OtherLimit quickSteps(toolLimits().stepMs, 10);
     const OtherLimit patience(toolLimits().politeStopMs, OtherLimit::forGood);
     const ScriptedCalls tool(toolPath());
     tool.setScript({"heed-term", "out ready\\n", "await-term", tool.holding("end")});
