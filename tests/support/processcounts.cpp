@@ -8,6 +8,13 @@
 #include <QFile>
 #include <QFileInfo>
 
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define KORVEX_ADDRESS_SANITIZER
+#include <sanitizer/allocator_interface.h>
+#endif
+#endif
+
 namespace
 {
 
@@ -110,7 +117,11 @@ int descriptorCount()
 
 qint64 residentKilobytes()
 {
+#ifdef KORVEX_ADDRESS_SANITIZER
+    return qint64(__sanitizer_get_current_allocated_bytes() / 1024);
+#else
     return statusNumber("VmRSS");
+#endif
 }
 
 QList<qint64> childProcesses()

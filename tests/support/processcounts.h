@@ -19,6 +19,7 @@ bool areRunnersGone();
 // once for each ToolLimits::stepMs.
 qint64 runnerThreadWaits();
 int descriptorCount();
+// Under the address sanitizer, which keeps what has been freed for a while: what is allocated.
 qint64 residentKilobytes();
 // Process numbers of the direct children, ended but unreaped ones included.
 QList<qint64> childProcesses();
