@@ -114,7 +114,7 @@ endfunction()
 function(korvex_run_test name)
   cmake_parse_arguments(ARG "" "TARGET;LABEL;TIMEOUT" "ENVIRONMENT;UNSET;ARGUMENTS;LAUNCHER" ${ARGN})
   if(NOT ARG_TIMEOUT)
-    set(ARG_TIMEOUT 120)
+    set(ARG_TIMEOUT 400) # costs nothing while tests end, and the machine may be busy
   endif()
   if(KORVEX_SANITIZE)
     math(EXPR ARG_TIMEOUT "5 * ${ARG_TIMEOUT}")
