@@ -61,7 +61,7 @@ QList<UsbWriteHold::Step> UsbWriteHold::steps()
 int UsbWriteHold::indexOf(const QString& name)
 {
     const QList<Step> all = steps();
-    const auto isNamed = [&name](const Step& step) { return step.name == name; };
+    const auto isNamed = [&name](const Step& each) { return each.name == name; };
     return int(std::find_if(all.begin(), all.end(), isNamed) - all.begin());
 }
 
