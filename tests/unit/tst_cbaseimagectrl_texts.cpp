@@ -5,7 +5,20 @@
 #include "testmain.h"
 #include "usermouse.h"
 
+#include <QDebug>
 #include <QPainter>
+
+namespace
+{
+
+QString textOf(const QRect& rectangle)
+{
+    QString text;
+    QDebug(&text) << rectangle;
+    return text;
+}
+
+} // namespace
 
 class TstCBaseImageCtrlTexts : public ImageCtrlTest
 {
@@ -59,8 +72,8 @@ void TstCBaseImageCtrlTexts::styleDecidesPlaceAndColourOfTheCaption()
     const QRect bounds = boundsOf(window->grab(button->geometry()).toImage(), colour);
     QVERIFY(!bounds.isEmpty());
     const QPoint centre((160 - 1) / 2, (100 + reach) / 2);
-    QVERIFY2(qAbs(bounds.center().x() - centre.x()) <= 2, qPrintable(QTest::toString(bounds)));
-    QVERIFY2(qAbs(bounds.center().y() - centre.y()) <= 4, qPrintable(QTest::toString(bounds)));
+    QVERIFY2(qAbs(bounds.center().x() - centre.x()) <= 2, qPrintable(textOf(bounds)));
+    QVERIFY2(qAbs(bounds.center().y() - centre.y()) <= 4, qPrintable(textOf(bounds)));
     QVERIFY(button->rect().contains(button->captionRect()));
 }
 
@@ -105,12 +118,11 @@ void TstCBaseImageCtrlTexts::tilePaintsADescriptionBelowItsCaption()
     const QImage image = window->grab(button->geometry()).toImage();
     const QRect caption = boundsOf(image, Qt::black);
     const QRect description = boundsOf(image, Qt::gray);
-    QVERIFY2(qAbs(caption.center().y() - (220 + 35) / 2) <= 4,
-             qPrintable(QTest::toString(caption)));
+    QVERIFY2(qAbs(caption.center().y() - (220 + 35) / 2) <= 4, qPrintable(textOf(caption)));
     // The caption's soft edges are gray too, so only the lower end is the description's own.
     const int middle = (220 + 90) / 2;
     QVERIFY2(description.bottom() > middle && description.bottom() < middle + 12,
-             qPrintable(QTest::toString(description)));
+             qPrintable(textOf(description)));
     QVERIFY(description.width() > caption.width());
 }
 
