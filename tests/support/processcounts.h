@@ -9,8 +9,8 @@
 // What a test process and its children hold at the moment, read from the system's process table.
 
 // The threads of runners; each has one while its tool runs or is being stopped. A thread that has
-// been waited for can still be counted for a moment: it says from within that it has ended. One that
-// has only just been started is not counted before it has its name.
+// been waited for can still be counted for a moment: it says from within that it has ended. One
+// that has only just been started is not counted before it has its name.
 int runnerThreadCount();
 // There is none, nor any that was started and has no name yet: for a wait that begins right after a
 // start. A test that calls it gives its own threads a name.
