@@ -250,9 +250,9 @@ void TstCPage4Unpack::longCopyIsFinishedBeforeUnpackingBegins()
     fixture->startLoading("other.iso");
     QVERIFY(fixture->waitUntilListed());
     QVERIFY(PageFixture::waitUntilToolsGone());
-    // The page looks every few milliseconds whether it may unpack; this timer comes after that.
-    QTest::qWait(20);
-    QCOMPARE(runnerThreadCount(), 0);
+    // The page looks every few milliseconds whether it may unpack.
+    QVERIFY(QMetaObject::invokeMethod(fixture->page, "unpackWhenClean", Qt::DirectConnection));
+    QVERIFY(areRunnersGone());
     held.release();
     QVERIFY(fixture->archiver.isHeld("gate"));
     QVERIFY(entriesOf(fixture->workFolder()).isEmpty());
@@ -273,9 +273,9 @@ void TstCPage4Unpack::archiverOfAnotherPageIsWaitedFor()
     QVERIFY(fixture->waitUntilListed());
     QVERIFY(PageFixture::waitUntilToolsGone());
     writeFile(fixture->workFolder() + "/of the other's image", "");
-    // The page looks every few milliseconds whether it may unpack; this timer comes after that.
-    QTest::qWait(20);
-    QCOMPARE(runnerThreadCount(), 0);
+    // The page looks every few milliseconds whether it may unpack.
+    QVERIFY(QMetaObject::invokeMethod(fixture->page, "unpackWhenClean", Qt::DirectConnection));
+    QVERIFY(areRunnersGone());
     QCOMPARE(fixture->archiver.calls().size(), 1);
     ::close(lock);
     QVERIFY(fixture->waitUntilWorked());
